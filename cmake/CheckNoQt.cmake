@@ -1,0 +1,12 @@
+# Fails when a file under DIR includes a Qt header.
+file(GLOB_RECURSE sources "${DIR}/*.h" "${DIR}/*.cpp")
+set(offenders "")
+foreach(source IN LISTS sources)
+    file(STRINGS "${source}" hits REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"](Q[A-Za-z]|qt)")
+    if(hits)
+        list(APPEND offenders "${source}")
+    endif()
+endforeach()
+if(offenders)
+    message(FATAL_ERROR "These core files include Qt headers: ${offenders}")
+endif()

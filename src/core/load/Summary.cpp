@@ -1,0 +1,135 @@
+#include "Summary.h"
+
+#include "platform/Format.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillet {
+
+std::string bowText(const LoadState& state)
+{
+    return "Basic Operating weight = " + format0(state.emptyweight) + " lb.";
+}
+
+std::string paxText(const LoadState& state)
+{
+    return "PAX weight =  " + format0(state.loadweight) + " lb.";
+}
+
+std::string fuelText(const LoadState& state)
+{
+    return "Maximum Allowable Fuel weight =  " + format0(state.fuelallowance) + " lb.";
+}
+
+std::string totalText(const LoadState& state)
+{
+    return "Total weight = " + format0(state.emptyweight + state.loadweight + state.fuelallowance) + " lb.";
+}
+
+bool countsContainers(std::string_view type)
+{
+    return type == "DC-9-30F" || type == "DC-10-30F" || type == "B757-200F";
+}
+
+void summary(SummaryForm& form, LoadState& state, std::string_view type)
+{
+    SummaryLabels& labels = form.summaryLabels();
+
+    // Zero-fuel check; the test is strict, so a load exactly at the limit passes.
+    if (state.emptyweight + state.loadweight > state.maxzerofuel) {
+        labels.lblpax.foreColor = kRed;
+        labels.warning.foreColor = kRed;
+        labels.warning.visible = true;
+        labels.warning.text = format0(state.maxzerofuel) + " lb Max. Zero Fuel Weight Exceeded";
+    } else {
+        labels.warning.visible = false;
+        labels.warning.foreColor = kBlack;
+        labels.lblpax.foreColor = kBlack;
+    }
+
+    // No lower bound: an overloaded aircraft gets a negative allowance, which the user should see.
+    state.fuelallowance = std::min(state.maxtakeoff - state.loadweight - state.emptyweight, state.maxfuel);
+
+    labels.lblbow.text = bowText(state);
+    labels.lblpax.text = paxText(state);
+    labels.lblmf.text = fuelText(state);
+    labels.lbltot.text = totalText(state);
+
+    form.nopass();
+    if (countsContainers(type)) {
+        labels.lblpass.text =
+            "Containers  " + format0(state.ncontainers) + " / " + format0(state.ncargo - state.nlower);
+    } else {
+        labels.lblpass.text = "Passengers  " + format0(state.npax) + " / " + format0(state.maxpax);
+    }
+    labels.lblmaxtow.text = "Max takeoff weight  " + format0(state.maxtakeoff) + " lb.";
+    labels.lblmaxfuel.text = "Fuel capacity  " + format0(state.maxfuel) + " lb.";
+
+    // Balance over every marker entry, not only the type's stations: the empty aircraft counts with
+    // its weight at the reference point, and 0.01 lb keeps the division defined. The extremes start
+    // at 0, so the span always includes the reference point.
+    double sx = 0;
+    double sy = 0;
+    double weight = state.emptyweight + 0.01;
+    double maxX = 0;
+    double minX = 0;
+    double maxY = 0;
+    double minY = 0;
+    for (int i = 0; i < kMarkerCapacity; ++i) {
+        const double x = state.stationx[i];
+        const double y = state.stationy[i];
+        const double w = state.stationweight[i];
+        sx += x * w;
+        sy += y * w;
+        weight += w;
+        maxX = std::max(maxX, x);
+        minX = std::min(minX, x);
+        maxY = std::max(maxY, y);
+        minY = std::min(minY, y);
+    }
+    const double cgX = sx / weight;
+    const double cgY = sy / weight;
+
+    constexpr double tolerance = 0.02;
+    if (std::fabs(cgX) > tolerance * (maxX - minX) || std::fabs(cgY) > tolerance * (maxY - minY)) {
+        labels.warning.text = "Warning aircraft out of balance";
+        labels.warning.visible = true;
+        labels.warning.foreColor = kRed;
+    }
+
+    balance(maxX, minX, maxY, minY, cgX, cgY, tolerance, form.Picture4(), form.Picture3());
+}
+
+namespace {
+
+void drawIndicator(Canvas& picture, double max, double min, double cg, double tol)
+{
+    const double w = picture.scaleWidth();
+    const double h = picture.scaleHeight();
+    const double span = max - min;
+    const double k = w / (1.1 * (span + 0.001));
+    const auto px = [&](double v) { return w / 2 - k * (v - (max + min) / 2); };
+
+    picture.line(px(max), h / 2, px(min), h / 2, kBlack);
+    picture.line(px(0), h / 4, px(0), 3 * h / 4, kBlack);
+
+    const Rgb colour = std::fabs(cg) <= tol * span ? kBlue : kRed;
+    picture.setFillStyle(FillStyle::Solid);
+    picture.setFillColor(colour);
+    picture.circle(px(cg), h / 2, h / 10, colour);
+    picture.setFillStyle(FillStyle::Solid);
+}
+
+} // namespace
+
+void balance(double maxx, double minx, double maxy, double miny, double cgx, double cgy, double tol,
+             Canvas& picture4, Canvas& picture3)
+{
+    picture4.clear();
+    picture3.clear();
+    drawIndicator(picture4, maxx, minx, cgx, tol);
+    drawIndicator(picture3, maxy, miny, cgy, tol);
+}
+
+} // namespace quillet

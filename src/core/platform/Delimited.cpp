@@ -1,0 +1,81 @@
+#include "Delimited.h"
+
+namespace quillet {
+
+void DelimitedReader::skipBlanks()
+{
+    while (m_pos < m_text.size() && (m_text[m_pos] == ' ' || m_text[m_pos] == '\t'))
+        ++m_pos;
+}
+
+bool DelimitedReader::atLineEnd() const
+{
+    return m_pos < m_text.size() && (m_text[m_pos] == '\r' || m_text[m_pos] == '\n');
+}
+
+void DelimitedReader::takeLineEnd()
+{
+    if (m_text[m_pos] == '\r' && m_pos + 1 < m_text.size() && m_text[m_pos + 1] == '\n')
+        ++m_pos;
+    ++m_pos;
+    ++m_line;
+}
+
+bool DelimitedReader::atEnd()
+{
+    if (m_afterComma)
+        return false; // a comma promises one more field, empty if need be
+    for (;;) {
+        skipBlanks();
+        if (!atLineEnd())
+            return m_pos >= m_text.size();
+        takeLineEnd();
+    }
+}
+
+std::optional<DelimitedReader::Field> DelimitedReader::next()
+{
+    if (atEnd())
+        return std::nullopt;
+    m_afterComma = false;
+    skipBlanks();
+
+    Field field;
+    field.line = m_line;
+    if (m_pos < m_text.size() && m_text[m_pos] == '"') {
+        field.quoted = true;
+        ++m_pos;
+        while (m_pos < m_text.size() && m_text[m_pos] != '"') {
+            if (m_text[m_pos] == '\n' || (m_text[m_pos] == '\r' && (m_pos + 1 >= m_text.size() || m_text[m_pos + 1] != '\n')))
+                ++m_line;
+            field.text += m_text[m_pos++];
+        }
+        if (m_pos < m_text.size())
+            ++m_pos; // closing quote
+        // Anything between the closing quote and the delimiter is dropped.
+        while (m_pos < m_text.size() && m_text[m_pos] != ',' && !atLineEnd())
+            ++m_pos;
+    } else {
+        while (m_pos < m_text.size() && m_text[m_pos] != ',' && !atLineEnd())
+            field.text += m_text[m_pos++];
+        const auto last = field.text.find_last_not_of(" \t");
+        field.text.erase(last == std::string::npos ? 0 : last + 1);
+    }
+
+    if (m_pos < m_text.size()) {
+        if (m_text[m_pos] == ',') {
+            ++m_pos;
+            m_afterComma = true;
+        } else {
+            takeLineEnd();
+        }
+    }
+    return field;
+}
+
+std::string quotedField(std::string_view text)
+{
+    return "\"" + std::string(text) + "\"";
+}
+
+} // namespace quillet

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quillet {
+
+// Reads a text field by field the classic delimited way: a field ends at a comma or at the end of a
+// line (CR LF, LF or CR), blanks before and after it are dropped, and a field that begins with a double
+// quote runs to the next double quote and may hold commas and line ends. Empty lines between fields
+// are skipped, so fields may be spread over lines.
+class DelimitedReader {
+public:
+    struct Field {
+        std::string text;
+        bool quoted = false;
+        int line = 1; // where the field starts, from 1
+    };
+
+    explicit DelimitedReader(std::string_view text) : m_text(text) {}
+
+    // The next field, or nothing at the end of the text.
+    std::optional<Field> next();
+    // Whether anything but blanks and line ends is left.
+    bool atEnd();
+    int line() const { return m_line; }
+
+private:
+    void skipBlanks();
+    bool atLineEnd() const;
+    void takeLineEnd();
+
+    std::string_view m_text;
+    std::size_t m_pos = 0;
+    int m_line = 1;
+    bool m_afterComma = false;
+};
+
+// A text field as the classic delimited writer puts it: in double quotes.
+std::string quotedField(std::string_view text);
+
+} // namespace quillet

@@ -1,0 +1,127 @@
+#include "Paths.h"
+
+#include <system_error>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace quillet {
+
+std::string lowerAscii(std::string_view text)
+{
+    std::string out(text);
+    for (char& c : out) {
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    }
+    return out;
+}
+
+bool equalsIgnoreCase(std::string_view a, std::string_view b)
+{
+    return a.size() == b.size() && lowerAscii(a) == lowerAscii(b);
+}
+
+namespace {
+
+struct SplitPath {
+    fs::path root; // empty for a relative path
+    std::vector<std::string> parts;
+};
+
+SplitPath split(std::string_view path)
+{
+    SplitPath out;
+    std::size_t i = 0;
+#ifdef _WIN32
+    if (path.size() >= 2 && path[1] == ':') {
+        out.root = fs::path(std::string(path.substr(0, 2)) + "\\");
+        i = 2;
+    }
+#endif
+    if (i < path.size() && (path[i] == '\\' || path[i] == '/')) {
+        if (out.root.empty())
+            out.root = fs::path("/").root_directory();
+        ++i;
+    }
+    std::string part;
+    for (; i <= path.size(); ++i) {
+        if (i == path.size() || path[i] == '\\' || path[i] == '/') {
+            if (!part.empty() && part != ".")
+                out.parts.push_back(part);
+            part.clear();
+        } else {
+            part += path[i];
+        }
+    }
+    return out;
+}
+
+fs::path startOf(const SplitPath& split, const fs::path& base)
+{
+    if (!split.root.empty())
+        return split.root;
+    return base.empty() ? fs::path(".") : base;
+}
+
+// The entry of `dir` named `name`, exact match first, then without regard to letter case.
+std::optional<fs::path> findEntry(const fs::path& dir, const std::string& name)
+{
+    std::error_code ec;
+    const fs::path exact = dir / fs::path(name);
+    if (name == ".." || fs::exists(exact, ec))
+        return exact;
+    const std::string wanted = lowerAscii(name);
+    for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec)) {
+        if (lowerAscii(it->path().filename().string()) == wanted)
+            return it->path();
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<fs::path> findPath(std::string_view path, const fs::path& base)
+{
+    const SplitPath parts = split(path);
+    if (parts.parts.empty() && parts.root.empty())
+        return std::nullopt;
+    fs::path current = startOf(parts, base);
+    for (const std::string& part : parts.parts) {
+        auto next = findEntry(current, part);
+        if (!next)
+            return std::nullopt;
+        current = *next;
+    }
+    std::error_code ec;
+    if (!fs::exists(current, ec))
+        return std::nullopt;
+    return current;
+}
+
+fs::path resolvePath(std::string_view path, const fs::path& base)
+{
+    const SplitPath parts = split(path);
+    fs::path current = startOf(parts, base);
+    bool found = true;
+    for (const std::string& part : parts.parts) {
+        std::optional<fs::path> next = found ? findEntry(current, part) : std::nullopt;
+        found = next.has_value();
+        current = found ? *next : current / fs::path(part);
+    }
+    return current;
+}
+
+bool fileExists(std::string_view path, const fs::path& base)
+{
+    const auto found = findPath(path, base);
+    std::error_code ec;
+    return found && fs::is_regular_file(*found, ec);
+}
+
+std::string displayPath(const fs::path& path)
+{
+    return path.lexically_normal().string();
+}
+
+} // namespace quillet

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quillet {
+
+// Paths reach the program written the old way, with backslashes ("C:\fs2000\aircraft\b737\aircraft.cfg")
+// and in whatever letter case the user typed. These functions find the real file on any file system:
+// both slashes separate, and each part matches a directory entry without regard to letter case
+// (an exact match is preferred). A relative path starts from `base`.
+
+// The existing file or folder the path names, or nothing.
+std::optional<std::filesystem::path> findPath(std::string_view path, const std::filesystem::path& base = {});
+
+// Where to write the path: the existing parts as found, the rest as written.
+std::filesystem::path resolvePath(std::string_view path, const std::filesystem::path& base = {});
+
+// Whether a file (not a folder) of that name exists.
+bool fileExists(std::string_view path, const std::filesystem::path& base = {});
+
+// The text of a path for a message: the way the user wrote it.
+std::string displayPath(const std::filesystem::path& path);
+
+// ASCII letters folded to lower case; other bytes unchanged.
+std::string lowerAscii(std::string_view text);
+bool equalsIgnoreCase(std::string_view a, std::string_view b);
+
+} // namespace quillet

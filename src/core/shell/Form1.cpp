@@ -1,0 +1,170 @@
+#include "Form1.h"
+
+#include "AircraftTypes.h"
+#include "Settings.h"
+#include "load/Summary.h"
+#include "platform/Paths.h"
+
+namespace quillet {
+
+Form1::Form1(Session& session, FormRegistry& forms) : m_session(session), m_forms(forms), m_form4(session, *this)
+{
+    Combo1.onClick = [this] { Combo1_Click(); };
+    m_session.currentType = [this] { return Combo1.text(); };
+    m_session.refreshMain = [this] { refresh(); };
+    m_session.showMain = [this] { visible = true; };
+}
+
+void Form1::Form_Load()
+{
+    LoadState& state = m_session.state;
+    form4().Combo1.clear();
+    form4().Combo2.clear();
+    loadini(state.nmenu);
+
+    for (int i = 0; i < state.nmenu; ++i) {
+        ComboState& list = state.menuvalid[i] ? form4().Combo1 : form4().Combo2;
+        list.addItem(state.menutype[i]);
+        list.setListIndex(0);
+    }
+    for (int i = 0; i < state.nmenu; ++i) {
+        if (state.menutype[i] == form4().Combo1.text())
+            form4().Valid_dir.setText(state.menufolder[i]);
+    }
+    if (!form4().Check2)
+        form4().visible = true;
+    if (!Combo1.items().empty())
+        Combo1.setListIndex(0);
+    refresh();
+}
+
+void Form1::Combo1_Click()
+{
+    refresh();
+}
+
+void Form1::Combo1_Scroll()
+{
+    refresh();
+}
+
+void Form1::Combo1_Validate()
+{
+    refresh();
+}
+
+LoadForm* Form1::selectedForm()
+{
+    const AircraftType* type = findAircraftType(Combo1.text());
+    return type ? m_forms.form(type->form, m_session) : nullptr;
+}
+
+void Form1::refresh()
+{
+    PicDHC.visible = true;
+    if (const AircraftType* type = findAircraftType(Combo1.text())) {
+        PicDHC.file = m_session.picture(type->picture);
+        if (LoadForm* form = m_forms.form(type->form, m_session)) {
+            form->Form_Load();
+            form->mnuload_Click();
+            form->runSummary();
+        }
+    }
+    const LoadState& state = m_session.state;
+    lblbow.text = bowText(state);
+    lblpax.text = paxText(state);
+    lblmf.text = fuelText(state);
+    lbltot.text = totalText(state);
+}
+
+void Form1::Command2_Click()
+{
+    LoadForm* form = selectedForm();
+    if (!form)
+        return;
+    form->mnuload_Click();
+    visible = false;
+    form->visible = true;
+}
+
+void Form1::mnuconfigair_Click()
+{
+    loadini(m_session.state.nmenu);
+    form4().visible = true;
+}
+
+void Form1::munver_Click()
+{
+    aboutVisible = true;
+}
+
+void Form1::mnucopyright_Click()
+{
+    form2Visible = true;
+}
+
+void Form1::Form_Unload()
+{
+    ended = true;
+}
+
+void Form1::loadini(int& count)
+{
+    LoadState& state = m_session.state;
+    Combo1.clear();
+
+    const auto file = findPath(kSettingsFile, m_session.programFolder);
+    const auto bytes = file ? m_session.files.read(*file, kSettingsMaxBytes)
+                            : Result<std::string>(Error{"\"" + std::string(kSettingsFile) + "\" was not found in \"" +
+                                                        displayPath(m_session.programFolder) + "\""});
+    Settings settings;
+    if (bytes) {
+        settings = parseSettings(bytes.value(), kMenuCapacity);
+        for (const std::string& problem : settings.problems) {
+            m_session.messages.reportOnce("The settings file \"" + displayPath(*file) + "\" is not complete: " +
+                                          problem + ".");
+        }
+    } else {
+        m_session.messages.reportOnce(
+            "The settings could not be read: " + bytes.error().message +
+            ". Quillet starts with no aircraft and the simulator folder \"" + std::string(kDefaultSimFolder) +
+            "\"; set them in the configuration dialog, which saves them when it is closed.");
+        settings.simfolder = std::string(kDefaultSimFolder);
+    }
+
+    state.simfolder = settings.simfolder;
+    count = static_cast<int>(settings.entries.size());
+    for (int i = 0; i < count; ++i) {
+        state.menutype[i] = settings.entries[static_cast<std::size_t>(i)].type;
+        state.menufolder[i] = settings.entries[static_cast<std::size_t>(i)].folder;
+        // A flag once set stays set for the run.
+        if (fileExists(state.simfolder + "\\aircraft\\" + state.menufolder[i] + "\\aircraft.cfg",
+                       m_session.programFolder)) {
+            state.menuvalid[i] = true;
+            Combo1.addItem(state.menutype[i]);
+            Combo1.tooltip = "Select Aircraft Type";
+        }
+    }
+
+    // Assigning the folder runs the dialog's folder check when it changes the text.
+    form4().simdir.setText(state.simfolder);
+    if (!Combo1.items().empty())
+        Combo1.setListIndex(0);
+}
+
+bool Form1::saveini(int count)
+{
+    const LoadState& state = m_session.state;
+    std::vector<MenuEntry> entries;
+    for (int i = 0; i < count && i < kMenuCapacity; ++i)
+        entries.push_back({state.menutype[i], state.menufolder[i]});
+    const auto path = resolvePath(kSettingsFile, m_session.programFolder);
+    const Status written = m_session.files.replace(path, formatSettings(state.simfolder, entries));
+    if (!written) {
+        m_session.messages.report("The settings were not saved: " + written.error().message);
+        return false;
+    }
+    return true;
+}
+
+} // namespace quillet

@@ -1,0 +1,107 @@
+#include "platform/Files.h"
+
+#include "TempDir.h"
+
+#include <gtest/gtest.h>
+
+namespace fs = std::filesystem;
+
+namespace quillet {
+namespace {
+
+TEST(Files, ReadsBytesUnchanged)
+{
+    TempDir dir;
+    const std::string bytes("a\r\nb\xE9\0c\n", 8);
+    const auto file = dir.write("f.cfg", bytes);
+    auto read = Files().read(file, 100);
+    ASSERT_TRUE(read) << read.error().message;
+    EXPECT_EQ(read.value(), bytes);
+}
+
+TEST(Files, ReadRefusalsNameTheFile)
+{
+    TempDir dir;
+    const auto big = dir.write("big.cfg", std::string(101, 'x'));
+    Files files;
+    auto tooBig = files.read(big, 100);
+    ASSERT_FALSE(tooBig);
+    EXPECT_NE(tooBig.error().message.find("big.cfg"), std::string::npos);
+    EXPECT_NE(tooBig.error().message.find("too large"), std::string::npos);
+
+    auto missing = files.read(dir.path() / "none.cfg", 100);
+    ASSERT_FALSE(missing);
+    EXPECT_NE(missing.error().message.find("none.cfg\" does not exist"), std::string::npos);
+
+    auto folder = files.read(dir.path(), 100);
+    ASSERT_FALSE(folder);
+    EXPECT_NE(folder.error().message.find("is a folder"), std::string::npos);
+}
+
+TEST(Files, ReplaceWritesExactlyAndLeavesNoTemporary)
+{
+    TempDir dir;
+    const auto file = dir.write("aircraft.cfg", "old");
+    ASSERT_TRUE(Files().replace(file, "new\r\n"));
+    EXPECT_EQ(TempDir::readFile(file), "new\r\n");
+    EXPECT_FALSE(fs::exists(temporaryFor(file)));
+    ASSERT_TRUE(Files().replace(dir.path() / "fresh.cfg", ""));
+    EXPECT_TRUE(fs::exists(dir.path() / "fresh.cfg"));
+}
+
+TEST(Files, AFailedWriteKeepsTheOldFileWhole)
+{
+    TempDir dir;
+    const auto file = dir.write("aircraft.cfg", "the old contents");
+    Files files;
+    files.failWritesAfter(4);
+    auto written = files.replace(file, "the new contents, longer");
+    ASSERT_FALSE(written);
+    EXPECT_NE(written.error().message.find("old file was kept"), std::string::npos);
+    EXPECT_EQ(TempDir::readFile(file), "the old contents");
+    EXPECT_FALSE(fs::exists(temporaryFor(file)));
+}
+
+TEST(Files, ReadOnlyFilesAreNotReplaced)
+{
+    TempDir dir;
+    const auto file = dir.write("aircraft.cfg", "protected");
+    fs::permissions(file, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    auto written = Files().replace(file, "changed");
+    ASSERT_FALSE(written);
+    EXPECT_NE(written.error().message.find("read-only"), std::string::npos);
+    EXPECT_EQ(TempDir::readFile(file), "protected");
+}
+
+TEST(Files, ReplaceKeepsThePermissionsOfTheOldFile)
+{
+    TempDir dir;
+    const auto file = dir.write("aircraft.cfg", "x");
+    const auto perms = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+    fs::permissions(file, perms);
+    ASSERT_TRUE(Files().replace(file, "y"));
+    EXPECT_EQ(fs::status(file).permissions() & fs::perms::mask, perms);
+}
+
+TEST(Files, MissingFolderIsReported)
+{
+    TempDir dir;
+    auto written = Files().replace(dir.path() / "no" / "such" / "aircraft.cfg", "x");
+    ASSERT_FALSE(written);
+    EXPECT_NE(written.error().message.find("does not exist"), std::string::npos);
+}
+
+TEST(Files, CopyIfAbsentNeverReplaces)
+{
+    TempDir dir;
+    const auto from = dir.write("aircraft.cfg", "first");
+    const auto to = dir.path() / "aircraft.cfg.bak";
+    ASSERT_TRUE(Files().copyIfAbsent(from, to));
+    EXPECT_EQ(TempDir::readFile(to), "first");
+    dir.write("aircraft.cfg", "second");
+    ASSERT_TRUE(Files().copyIfAbsent(from, to));
+    EXPECT_EQ(TempDir::readFile(to), "first");
+}
+
+} // namespace
+} // namespace quillet

@@ -1,0 +1,123 @@
+#include "platform/Date.h"
+#include "platform/Format.h"
+#include "platform/Random.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+
+namespace quillet {
+namespace {
+
+TEST(NumberFormats, WholeNumbersRoundHalvesAwayFromZero)
+{
+    EXPECT_EQ(format0(2.5), "3");
+    EXPECT_EQ(format0(-2.5), "-3");
+    EXPECT_EQ(format0(2.4999), "2");
+    EXPECT_EQ(format0(182.6f), "183");
+    EXPECT_EQ(format0(0), "0");
+    EXPECT_EQ(format0(-0.4), "0") << "a value that rounds to zero has no sign";
+    EXPECT_EQ(format0(1234567), "1234567") << "no thousands separator";
+    EXPECT_EQ(format0(1e20), "100000000000000000000");
+}
+
+TEST(NumberFormats, OneDecimal)
+{
+    EXPECT_EQ(format1(0.45), "0.5");
+    EXPECT_EQ(format1(1.15), "1.2") << "taken at 15 digits, as the user reads it";
+    EXPECT_EQ(format1(220), "220.0");
+    EXPECT_EQ(format1(1.0 / 2.2), "0.5");
+    EXPECT_EQ(format1(-13), "-13.0");
+    EXPECT_EQ(format1(-0.04), "0.0");
+    EXPECT_EQ(format1(0.05), "0.1");
+    EXPECT_EQ(format1(99.96), "100.0");
+}
+
+TEST(NumberFormats, IgnoreTheLocale)
+{
+    const char* before = std::setlocale(LC_NUMERIC, nullptr);
+    const std::string saved = before ? before : "C";
+    if (!std::setlocale(LC_NUMERIC, "de_DE.UTF-8") && !std::setlocale(LC_NUMERIC, "fr_FR.UTF-8"))
+        GTEST_SKIP() << "no locale with a decimal comma installed";
+    EXPECT_EQ(format1(2.5), "2.5");
+    EXPECT_EQ(shortestNumber(13.5f), "13.5");
+    EXPECT_DOUBLE_EQ(val("2.5"), 2.5);
+    std::setlocale(LC_NUMERIC, saved.c_str());
+}
+
+TEST(NumberFormats, HalvesToEven)
+{
+    EXPECT_EQ(roundHalfEven(2.5), 2);
+    EXPECT_EQ(roundHalfEven(3.5), 4);
+    EXPECT_EQ(roundHalfEven(-2.5), -2);
+    EXPECT_EQ(roundHalfEven(0.0625, 3), 0.062);
+    EXPECT_EQ(roundHalfEven(182.6f, 1), 182.6);
+}
+
+TEST(NumberFormats, ShortestPlainDecimal)
+{
+    EXPECT_EQ(shortestNumber(13.5f), "13.5");
+    EXPECT_EQ(shortestNumber(-2.0f), "-2");
+    EXPECT_EQ(shortestNumber(0.1f), "0.1");
+    EXPECT_EQ(shortestNumber(0.0f), "0");
+    EXPECT_EQ(shortestNumber(-0.0f), "0");
+    EXPECT_EQ(shortestNumber(16950.0f), "16950");
+    EXPECT_EQ(shortestNumber(1e10f), "10000000000");
+    EXPECT_EQ(shortestNumber(182.6), "182.6");
+}
+
+TEST(LeadingNumber, ReadsTheLongestLeadingNumber)
+{
+    EXPECT_EQ(val("85 kg"), 85);
+    EXPECT_EQ(val("abc"), 0);
+    EXPECT_EQ(val(""), 0);
+    EXPECT_EQ(val("-80"), -80);
+    EXPECT_DOUBLE_EQ(val("182.6"), 182.6);
+    EXPECT_EQ(val(" 1 7 0 lb"), 170) << "blanks inside the number are ignored";
+    EXPECT_DOUBLE_EQ(val(".5"), 0.5);
+    EXPECT_DOUBLE_EQ(val("-.5"), -0.5);
+    EXPECT_EQ(val("1e3"), 1000);
+    EXPECT_EQ(val("2e"), 2) << "an exponent without digits is not part of the number";
+    EXPECT_EQ(val("+12"), 12);
+    EXPECT_EQ(val("12,5"), 12) << "a comma ends the number";
+    EXPECT_EQ(val("-"), 0);
+    EXPECT_EQ(val("."), 0);
+    EXPECT_EQ(val("1e999"), 0) << "a number too large to hold counts as none";
+}
+
+TEST(LeadingNumber, WholeFieldParsing)
+{
+    double v = -1;
+    EXPECT_TRUE(parseNumber(" 13.5 ", v));
+    EXPECT_EQ(v, 13.5);
+    EXPECT_TRUE(parseNumber("-2", v));
+    EXPECT_EQ(v, -2);
+    EXPECT_TRUE(parseNumber("+1E+07", v));
+    EXPECT_EQ(v, 1e7);
+    EXPECT_FALSE(parseNumber("12abc", v));
+    EXPECT_FALSE(parseNumber("abc", v));
+    EXPECT_FALSE(parseNumber("", v));
+    EXPECT_FALSE(parseNumber("1e999", v));
+}
+
+TEST(DateText, DayWithoutLeadingZeroAndEnglishMonth)
+{
+    EXPECT_EQ(formatDate({2001, 3, 7}), "7 Mar 2001");
+    EXPECT_EQ(formatDate({2026, 11, 22}), "22 Nov 2026");
+    EXPECT_EQ(formatDate({1999, 12, 31}), "31 Dec 1999");
+}
+
+TEST(RandomGenerator, FixedSeedGivesTheSameSequenceInUnitRange)
+{
+    SeededRandom first;
+    SeededRandom second;
+    for (int i = 0; i < 1000; ++i) {
+        const double a = first.next();
+        EXPECT_EQ(a, second.next());
+        EXPECT_GE(a, 0.0);
+        EXPECT_LT(a, 1.0);
+    }
+}
+
+} // namespace
+} // namespace quillet
