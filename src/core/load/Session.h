@@ -6,9 +6,11 @@
 #include "platform/Messages.h"
 #include "platform/Prompt.h"
 #include "platform/Random.h"
+#include "platform/RecordingCanvas.h"
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -37,8 +39,12 @@ public:
     // The main window's refresh, and showing it again when a load form closes.
     std::function<void()> refreshMain = [] {};
     std::function<void()> showMain = [] {};
-    // Runs after every successful read of a type's stored load.
+    // Runs at the end of every read of a type's stored load.
     std::function<void()> afterRead = [] {};
+    // Makes the picture boxes the forms draw on, of a size in twips: the window layer makes real
+    // ones; by default they only record what is drawn.
+    std::function<std::unique_ptr<Canvas>(double widthTwips, double heightTwips)> makeCanvas =
+        [](double width, double height) { return std::make_unique<RecordingCanvas>(width, height); };
 
     // A picture file of the program's folder, found without regard to letter case; an empty path,
     // and a message the first time, when it is missing.
