@@ -1,0 +1,187 @@
+#include "inputoutput.h"
+
+#include "AircraftFile.h"
+#include "StationFile.h"
+#include "WeightBlock.h"
+#include "platform/Paths.h"
+
+#include <algorithm>
+#include <optional>
+#include <span>
+
+namespace fs = std::filesystem;
+
+namespace quillet {
+
+namespace {
+
+// Far above any real aircraft.cfg or station file; anything larger is not one.
+constexpr std::uintmax_t kMaxFileBytes = 1 << 20;
+
+std::string quoted(const fs::path& path)
+{
+    std::string text = displayPath(path);
+    text.insert(text.begin(), '"');
+    text += '"';
+    return text;
+}
+
+Result<fs::path> aircraftFile(const Session& session, const std::string& type)
+{
+    if (type.empty())
+        return Error{"No aircraft type is selected."};
+    const std::string* folder = session.state.folderOf(type);
+    if (!folder)
+        return Error{"The aircraft menu has no entry for \"" + type + "\", so its aircraft.cfg is unknown."};
+    return resolvePath(session.state.simfolder + "\\aircraft\\" + *folder + "\\aircraft.cfg",
+                       session.programFolder);
+}
+
+fs::path stationFile(const Session& session, const std::string& type)
+{
+    return resolvePath(type + ".cfg", session.programFolder);
+}
+
+void fillBuffer(LoadState& state, const AircraftLines& buffer)
+{
+    state.cfglines.fill({});
+    std::copy(buffer.lines.begin(), buffer.lines.end(), state.cfglines.begin());
+    state.cfgcount = static_cast<int>(buffer.lines.size());
+    state.sectionlines = buffer.sectionlines;
+}
+
+// Everything of readcfg that can fail. Nothing in the state beyond the cleared weights and buffer
+// changes, and nothing is written, until every check has passed.
+Status readFiles(Session& session, const std::string& type)
+{
+    const std::string notRead =
+        " The load of \"" + type +
+        "\" was not read, and nothing will be saved for it until it is read successfully.";
+    auto found = aircraftFile(session, type);
+    if (!found)
+        return Error{found.error().message + notRead};
+    const fs::path cfgPath = found.value();
+    auto read = session.files.read(cfgPath, kMaxFileBytes);
+    if (!read)
+        return Error{read.error().message + notRead};
+    std::string bytes = std::move(read).value();
+    auto buffer = bufferAircraftFile(bytes, kCfgLineCapacity);
+    if (!buffer)
+        return Error{quoted(cfgPath) + " " + buffer.error().message + "." + notRead};
+
+    const fs::path stationPath = stationFile(session, type);
+    std::optional<LoadState> stored;
+    if (fileExists(type + ".cfg", session.programFolder)) {
+        auto text = session.files.read(stationPath, kMaxFileBytes);
+        if (!text)
+            return Error{text.error().message + notRead};
+        auto parsed = withStationFile(text.value(), session.state);
+        if (!parsed) {
+            return Error{"The station file " + quoted(stationPath) +
+                         " cannot be used: " + parsed.error().message + "." + notRead +
+                         " Correct the file, or delete it to start again from the built-in table."};
+        }
+        stored = std::move(parsed).value();
+    }
+
+    // The backup keeps the file as it was before this program first changed it, so one that cannot be
+    // made stops every later save.
+    const fs::path backup = cfgPath.parent_path() / "aircraft.cfg.bak";
+    if (auto copied = session.files.copyIfAbsent(cfgPath, backup); !copied)
+        return Error{copied.error().message + notRead};
+
+    LoadState& state = session.state;
+    if (stored) {
+        state = std::move(*stored); // a copy of the state taken above, nothing else has changed it since
+    } else if (auto created = session.files.replace(stationPath, stationFileText(state)); !created) {
+        session.messages.report("The station file could not be created: " + created.error().message +
+                                " The built-in table of \"" + type +
+                                "\" is used, and the next save writes the file.");
+    }
+    state.loadweight = state.sumOfWeights();
+    fillBuffer(state, buffer.value());
+    state.cfgsource = CfgSource{true, type, cfgPath, std::move(bytes)};
+    return success();
+}
+
+void clearBuffer(LoadState& state)
+{
+    state.cfglines.fill({});
+    state.cfgcount = 0;
+    state.sectionlines = 0;
+    state.cfgsource = CfgSource{};
+}
+
+// Everything of writecfg that can fail, aircraft.cfg first.
+Status writeFiles(Session& session)
+{
+    LoadState& state = session.state;
+    const std::string type = session.currentType();
+    auto found = aircraftFile(session, type);
+    if (!found)
+        return Error{"Nothing was saved. " + found.error().message};
+    const fs::path cfgPath = found.value();
+    CfgSource& source = state.cfgsource;
+    if (!source.valid || source.type != type || source.file != cfgPath) {
+        return Error{"Nothing was saved: " + quoted(cfgPath) + " has not been read successfully for \"" +
+                     type + "\". Re-load the configuration, then save again."};
+    }
+
+    // Another program (or the simulator) may have changed the file since it was read: its lines are
+    // taken again, so that only the weight and balance section is ours.
+    auto onDisk = session.files.read(cfgPath, kMaxFileBytes);
+    if (!onDisk)
+        return Error{"Nothing was saved: " + onDisk.error().message};
+    if (onDisk.value() != source.bytes) {
+        auto buffer = bufferAircraftFile(onDisk.value(), kCfgLineCapacity);
+        if (!buffer) {
+            return Error{"Nothing was saved: " + quoted(cfgPath) +
+                         " was changed by another program and now " + buffer.error().message + "."};
+        }
+        fillBuffer(state, buffer.value());
+        source.bytes = std::move(onDisk).value();
+        session.messages.report(quoted(cfgPath) +
+                                " was changed by another program since it was read; its changes outside the "
+                                "weight and balance section are kept.");
+    }
+
+    const auto block = weightAndBalanceBlock(state, type, session.clock.today());
+    const auto lines = std::span(state.cfglines)
+                           .first(static_cast<std::size_t>(std::clamp(state.cfgcount, 0, kCfgLineCapacity)));
+    std::string text = rewriteAircraftFile(lines, state.sectionlines, block);
+    if (auto written = session.files.replace(cfgPath, text); !written)
+        return Error{"Nothing was saved: " + written.error().message};
+    source.bytes = std::move(text);
+
+    if (auto written = session.files.replace(stationFile(session, type), stationFileText(state)); !written)
+        return Error{quoted(cfgPath) +
+                     " was saved, but the station file was not: " + written.error().message};
+    return success();
+}
+
+} // namespace
+
+Status readcfg(Session& session)
+{
+    LoadState& state = session.state;
+    // A failed read leaves the type as its set-up made it, empty, and with nothing that a save could
+    // write.
+    state.stationweight.fill(0);
+    clearBuffer(state);
+    Status status = readFiles(session, session.currentType());
+    if (!status)
+        session.messages.report(status.error().message);
+    state.loadweight = state.sumOfWeights();
+    session.afterRead();
+    return status;
+}
+
+Status writecfg(Session& session)
+{
+    Status status = writeFiles(session);
+    if (!status)
+        session.messages.report(status.error().message);
+    return status;
+}
+
+} // namespace quillet
