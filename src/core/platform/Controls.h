@@ -43,10 +43,10 @@ private:
 };
 
 // A combo box: its list, the chosen item (-1 for none) and its text, which shows the chosen item or,
-// with nothing chosen, whatever it was given.
+// with nothing chosen, whatever it was given. Its initial text stays as a hint for an empty choice.
 class ComboState {
 public:
-    explicit ComboState(std::string text = {}) : m_text(std::move(text)) {}
+    explicit ComboState(std::string text = {}) : hint(text), m_text(std::move(text)) {}
 
     const std::vector<std::string>& items() const { return m_items; }
     int listIndex() const { return m_index; }
@@ -83,6 +83,7 @@ public:
 
     std::function<void()> onClick;
     std::string tooltip;
+    std::string hint;
 
 private:
     std::vector<std::string> m_items;

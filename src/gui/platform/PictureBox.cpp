@@ -1,0 +1,60 @@
+#include "PictureBox.h"
+
+#include "QtCanvas.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace quillet {
+
+PictureBox::PictureBox(QWidget* parent) : QWidget(parent)
+{
+    setMouseTracking(true);
+    setFocusPolicy(Qt::ClickFocus);
+}
+
+void PictureBox::setCanvas(QtCanvas* canvas)
+{
+    m_canvas = canvas;
+    if (m_canvas)
+        m_canvas->onChanged = [this] { update(); };
+    update();
+}
+
+void PictureBox::setPicture(const QPixmap& picture)
+{
+    m_picture = picture;
+    update();
+}
+
+void PictureBox::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().window());
+    if (m_canvas)
+        painter.drawImage(0, 0, m_canvas->image());
+    if (!m_picture.isNull())
+        painter.drawPixmap(0, 0, m_picture);
+    if (m_border) {
+        painter.setPen(palette().color(QPalette::Dark));
+        painter.drawLine(0, 0, width() - 1, 0);
+        painter.drawLine(0, 0, 0, height() - 1);
+        painter.setPen(palette().color(QPalette::Light));
+        painter.drawLine(width() - 1, 0, width() - 1, height() - 1);
+        painter.drawLine(0, height() - 1, width() - 1, height() - 1);
+    }
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* event)
+{
+    if (onMouseDown)
+        onMouseDown(event->button(), event->position().x() * 15.0, event->position().y() * 15.0);
+}
+
+void PictureBox::mouseMoveEvent(QMouseEvent* event)
+{
+    if (onMouseMove)
+        onMouseMove(event->buttons(), event->position().x() * 15.0, event->position().y() * 15.0);
+}
+
+} // namespace quillet

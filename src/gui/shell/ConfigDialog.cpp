@@ -1,0 +1,118 @@
+#include "ConfigDialog.h"
+
+#include "Application.h"
+#include "platform/Twips.h"
+#include "platform/Widgets.h"
+#include "shell/Form1.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace quillet {
+
+namespace {
+
+QLabel* makeLabel(QWidget* parent, const char* name, const char* text, double l, double t, double w, double h)
+{
+    auto* label = new QLabel(QString::fromLatin1(text), parent);
+    label->setObjectName(QString::fromLatin1(name));
+    QFont arial(QStringLiteral("Arial"));
+    arial.setPointSizeF(9.75);
+    label->setFont(arial);
+    place(label, l, t, w, h);
+    return label;
+}
+
+} // namespace
+
+ConfigDialog::ConfigDialog(Application& app, QWidget* parent)
+    : QWidget(parent, Qt::Window), m_app(app), m_form(app.form1().form4Window())
+{
+    setObjectName(QStringLiteral("Form4"));
+    setWindowTitle(QString::fromLatin1(Form4::kCaption));
+    setFixedSize(twipsRect(0, 0, 5370, 2415).size());
+
+    makeLabel(this, "Label1", "Active Aircraft", 120, 0, 1695, 255);
+    makeLabel(this, "Label2", "Directory", 2640, 0, 1935, 375);
+    makeLabel(this, "Label4", "Avaliable Aircraft", 0, 720, 1695, 255);
+    auto* simLabel = new QLabel(QStringLiteral("Current Directory of Flight Simulator"), this);
+    simLabel->setObjectName(QStringLiteral("Label3"));
+    place(simLabel, 240, 1560, 4095, 255);
+
+    m_combo1 = new QComboBox(this);
+    m_combo1->setObjectName(QStringLiteral("Combo1"));
+    place(m_combo1, 720, 360, 1935, 315);
+    connect(m_combo1, &QComboBox::activated, this,
+            [this](int index) { m_app.handle([this, index] { m_form.Combo1.setListIndex(index); }); });
+
+    m_validDir = new QLineEdit(this);
+    m_validDir->setObjectName(QStringLiteral("Valid_dir"));
+    m_validDir->setReadOnly(true);
+    QPalette menuColour = m_validDir->palette();
+    menuColour.setColor(QPalette::Base, palette().color(QPalette::Button));
+    m_validDir->setPalette(menuColour);
+    place(m_validDir, 2760, 360, 1695, 285);
+
+    m_combo2 = new QComboBox(this);
+    m_combo2->setObjectName(QStringLiteral("Combo2"));
+    place(m_combo2, 720, 1080, 1935, 315);
+    connect(m_combo2, &QComboBox::activated, this,
+            [this](int index) { m_app.handle([this, index] { m_form.Combo2.setListIndex(index); }); });
+
+    const auto bindEdit = [this](QLineEdit* edit, TextBoxState& box) {
+        connect(edit, &QLineEdit::textEdited, this, [this, &box](const QString& text) {
+            m_app.handle([&box, text] { box.setText(fromQString(text)); });
+        });
+        connect(edit, &QLineEdit::editingFinished, this, [this, edit] {
+            edit->setModified(false);
+            m_app.handle([] {});
+        });
+    };
+    m_invalidDir = new QLineEdit(this);
+    m_invalidDir->setObjectName(QStringLiteral("invalid_dir"));
+    place(m_invalidDir, 2760, 1080, 1695, 285);
+    bindEdit(m_invalidDir, m_form.invalid_dir);
+
+    m_add = new QPushButton(QStringLiteral("Add"), this);
+    m_add->setObjectName(QStringLiteral("Command1"));
+    m_add->setToolTip(QStringLiteral("Add airfract to active menu"));
+    place(m_add, 4560, 1080, 495, 255);
+    connect(m_add, &QPushButton::clicked, this, [this] { m_app.handle([this] { m_form.Command1_Click(); }); });
+
+    m_simdir = new QLineEdit(this);
+    m_simdir->setObjectName(QStringLiteral("simdir"));
+    place(m_simdir, 360, 1920, 4095, 375);
+    bindEdit(m_simdir, m_form.simdir);
+
+    m_check2 = new QCheckBox(this);
+    m_check2->setObjectName(QStringLiteral("Check2"));
+    place(m_check2, 4560, 2040, 135, 195);
+    connect(m_check2, &QCheckBox::toggled, this,
+            [this](bool checked) { m_app.handle([this, checked] { m_form.Check2 = checked; }); });
+
+    sync();
+}
+
+void ConfigDialog::sync()
+{
+    showState(m_combo1, m_form.Combo1);
+    showState(m_validDir, m_form.Valid_dir);
+    showState(m_combo2, m_form.Combo2);
+    showState(m_invalidDir, m_form.invalid_dir);
+    m_add->setVisible(m_form.Command1_visible);
+    showState(m_simdir, m_form.simdir);
+    const QSignalBlocker blocker(m_check2);
+    m_check2->setChecked(m_form.Check2);
+}
+
+void ConfigDialog::closeEvent(QCloseEvent* event)
+{
+    m_app.handle([this] { m_form.close(); });
+    event->accept();
+}
+
+} // namespace quillet

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QWidget>
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+
+namespace quillet {
+
+class Application;
+class Form4;
+
+// The configuration dialog's window; not modal, so the main window stays usable beside it.
+class ConfigDialog : public QWidget {
+    Q_OBJECT
+public:
+    ConfigDialog(Application& app, QWidget* parent = nullptr);
+
+    void sync();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    Application& m_app;
+    Form4& m_form;
+    QComboBox* m_combo1 = nullptr;
+    QLineEdit* m_validDir = nullptr;
+    QComboBox* m_combo2 = nullptr;
+    QLineEdit* m_invalidDir = nullptr;
+    QPushButton* m_add = nullptr;
+    QLineEdit* m_simdir = nullptr;
+    QCheckBox* m_check2 = nullptr;
+};
+
+} // namespace quillet

@@ -1,0 +1,112 @@
+#include "GuiFixture.h"
+
+#include "shell/ConfigDialog.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QTest>
+
+namespace quillet {
+namespace {
+
+using MainWindowGui = GuiFixture;
+
+TEST_F(MainWindowGui, ListsTheEntriesWhoseAircraftCfgExistsAndShowsTheSummary)
+{
+    makeSimulator();
+    makeAircraft("b737_300");
+    makeAircraft("dc10");
+    writeIni(sim(), {"B737-300,b737_300", "Beech 1900D,nothing_here", "DC-10-30F,dc10"});
+    start();
+
+    auto* combo = find<QComboBox>(main(), "Combo1");
+    ASSERT_EQ(combo->count(), 2);
+    EXPECT_EQ(combo->itemText(0), "B737-300");
+    EXPECT_EQ(combo->itemText(1), "DC-10-30F");
+    EXPECT_EQ(combo->currentText(), "B737-300");
+    EXPECT_EQ(combo->toolTip(), "Select Aircraft Type");
+    EXPECT_EQ(text("lblbow"), "Basic Operating weight = 0 lb.");
+    EXPECT_EQ(text("lblpax"), "PAX weight =  0 lb.");
+    EXPECT_EQ(text("lblmf"), "Maximum Allowable Fuel weight =  0 lb.");
+    EXPECT_EQ(text("lbltot"), "Total weight = 0 lb.");
+    EXPECT_TRUE(main()->isVisible());
+    EXPECT_FALSE(app->configDialog()->isVisible()) << "the simulator folder is confirmed";
+
+    // Its picture is missing from the program folder: told once, and the box stays blank.
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_NE(told[0].find("B737-300.gif"), std::string::npos);
+    EXPECT_TRUE(find<QWidget>(main(), "PicDHC")->isVisible());
+}
+
+TEST_F(MainWindowGui, WidgetsStandAtTheirDesignedPlaces)
+{
+    writeIni(sim(), {});
+    start();
+    EXPECT_EQ(main()->centralWidget()->size(), QSize(564, 234));
+    EXPECT_EQ(find<QWidget>(main(), "Combo1")->geometry(), QRect(32, 112, 153, 21));
+    EXPECT_EQ(find<QWidget>(main(), "Command2")->geometry(), QRect(200, 112, 41, 17));
+    EXPECT_EQ(find<QWidget>(main(), "lbltot")->geometry(), QRect(32, 208, 220, 17));
+    EXPECT_EQ(find<QWidget>(main(), "Converter")->geometry(), QRect(448, 112, 105, 73));
+}
+
+TEST_F(MainWindowGui, WithoutASimulatorTheConfigurationDialogOpens)
+{
+    writeIni(sim(), {"B737-300,b737_300"});
+    start();
+    ConfigDialog* dialog = app->configDialog();
+    ASSERT_TRUE(dialog->isVisible());
+    EXPECT_EQ(dialog->windowTitle(), "Quillet - Configure");
+    EXPECT_FALSE(find<QCheckBox>(dialog, "Check2")->isChecked());
+    EXPECT_EQ(find<QLineEdit>(dialog, "simdir")->text(), QString::fromStdString(sim()));
+    EXPECT_EQ(find<QComboBox>(dialog, "Combo2")->itemText(0), "B737-300");
+    EXPECT_FALSE(find<QPushButton>(dialog, "Command1")->isVisible());
+
+    // Typing the right folder confirms it and stores the settings.
+    makeSimulator();
+    makeAircraft("b737_300");
+    auto* simdir = find<QLineEdit>(dialog, "simdir");
+    simdir->setFocus();
+    QTest::keyClick(simdir, Qt::Key_Space);
+    QTest::keyClick(simdir, Qt::Key_Backspace);
+    EXPECT_TRUE(find<QCheckBox>(dialog, "Check2")->isChecked());
+
+    dialog->close();
+    QApplication::processEvents();
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(find<QComboBox>(main(), "Combo1")->count(), 1) << "closing reads the settings back";
+}
+
+TEST_F(MainWindowGui, ConverterAnswersWhatIsTyped)
+{
+    writeIni(sim(), {});
+    start();
+    auto* kg = find<QLineEdit>(main(), "Textkg");
+    auto* lb = find<QLineEdit>(main(), "TextLB");
+    kg->setFocus();
+    kg->selectAll();
+    QTest::keyClicks(kg, "100");
+    EXPECT_EQ(kg->text(), "100") << "the box is not rewritten while typing";
+    EXPECT_EQ(lb->text(), "220.0");
+    EXPECT_EQ(text("Labellb"), "220");
+    QTest::keyClick(kg, Qt::Key_Return);
+    EXPECT_EQ(kg->text(), "100.0");
+
+    QTest::mouseClick(lb, Qt::LeftButton);
+    EXPECT_FALSE(kg->isVisible());
+    EXPECT_TRUE(find<QLabel>(main(), "Labelkg")->isVisible());
+    EXPECT_EQ(text("Labelkg"), "100");
+}
+
+TEST_F(MainWindowGui, AboutMenusShowFixedText)
+{
+    writeIni(sim(), {});
+    start();
+    app->handle([this] { app->form1().munver_Click(); });
+    auto* about = main()->findChild<QWidget*>("About");
+    ASSERT_NE(about, nullptr);
+    EXPECT_TRUE(about->isVisible());
+    EXPECT_TRUE(find<QLabel>(about, "Label1")->text().contains("Quillet Manager 2.0"));
+}
+
+} // namespace
+} // namespace quillet
