@@ -1,0 +1,17 @@
+#include "RegionalForms.h"
+
+#include "RegionalForm.h"
+
+#include <string>
+
+namespace quillet {
+
+void registerRegionalForms(FormRegistry& forms)
+{
+    for (const RegionalType* type : regionalTypes()) {
+        forms.add(std::string(type->form),
+                  [type](Session& session) { return std::make_unique<RegionalForm>(session, *type); });
+    }
+}
+
+} // namespace quillet

@@ -1,0 +1,110 @@
+#include "regional/CabinDrawing.h"
+
+#include "RegionalRig.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace quillet {
+namespace {
+
+std::unique_ptr<RecordingCanvas> drawn(const RegionalType& type)
+{
+    auto picture = std::make_unique<RecordingCanvas>(type.layout.cabin.width, type.layout.cabin.height);
+    drawCabinView(*picture, type);
+    return picture;
+}
+
+bool inside(const DrawOp& box, const TwipsRect& rect)
+{
+    return box.x1 >= rect.left && box.x2 <= rect.right() && box.y1 >= rect.top && box.y2 <= rect.bottom();
+}
+
+bool covers(const DrawOp& box, double x, double y)
+{
+    return box.x1 < x && x < box.x2 && box.y1 < y && y < box.y2;
+}
+
+TEST(RegionalCabin, EveryHotSpotSitsOnItsSeatOrHold)
+{
+    for (const RegionalType* type : regionalTypes()) {
+        const auto picture = drawn(*type);
+        const auto boxes = picture->ops(DrawOp::Kind::Box);
+        const auto texts = picture->ops(DrawOp::Kind::Text);
+        for (const StationRow& row : type->stations) {
+            SCOPED_TRACE(std::string(type->form) + " " + std::string(row.name));
+            const TwipsRect& spot = row.location;
+            const bool outlined = std::any_of(boxes.begin(), boxes.end(), [&](const DrawOp& box) {
+                return box.colour == kBlack && inside(box, spot) &&
+                       covers(box, spot.centreX(), spot.centreY());
+            });
+            EXPECT_TRUE(outlined);
+            if (row.name == "Cargo") {
+                const bool named = std::any_of(texts.begin(), texts.end(), [&](const DrawOp& text) {
+                    return text.text == "Cargo" && text.x1 > spot.left && text.x1 < spot.right();
+                });
+                EXPECT_TRUE(named);
+            }
+        }
+    }
+}
+
+TEST(RegionalCabin, BlackLinesOnWhiteInsideThePicture)
+{
+    for (const RegionalType* type : regionalTypes()) {
+        SCOPED_TRACE(type->form);
+        const auto picture = drawn(*type);
+        const auto& ops = picture->ops();
+        ASSERT_GE(ops.size(), 3u);
+        EXPECT_EQ(ops[0].kind, DrawOp::Kind::Clear);
+        EXPECT_EQ(ops[1].kind, DrawOp::Kind::Box);
+        EXPECT_EQ(ops[1].fillStyle, FillStyle::Solid);
+        EXPECT_EQ(ops[1].fillColor, kWhite);
+
+        const double width = type->layout.cabin.width;
+        const double height = type->layout.cabin.height;
+        double leftmost = width;
+        double rightmost = 0;
+        for (std::size_t i = 2; i < ops.size(); ++i) {
+            const DrawOp& op = ops[i];
+            if (op.kind == DrawOp::Kind::Text)
+                continue;
+            EXPECT_EQ(op.colour, kBlack);
+            EXPECT_NE(op.fillStyle, FillStyle::Solid) << "outlines only: the hot spots show through";
+            for (double x : {op.x1, op.x2}) {
+                EXPECT_GE(x, 0);
+                EXPECT_LE(x, width);
+            }
+            for (double y : {op.y1, op.y2}) {
+                EXPECT_GE(y, 0);
+                EXPECT_LE(y, height);
+            }
+            leftmost = std::min({leftmost, op.x1, op.x2});
+            rightmost = std::max({rightmost, op.x1, op.x2});
+        }
+        // The fuselage reaches beyond every station: the nose to the left, the tail to the right.
+        for (const StationRow& row : type->stations) {
+            EXPECT_LT(leftmost, row.location.left);
+            EXPECT_GT(rightmost, row.location.right());
+        }
+    }
+}
+
+TEST(RegionalCabin, TheFormDrawsItsCabinWhenMadeAndAgainOnDemand)
+{
+    RegionalRig rig;
+    RegionalForm form(rig.session, emb120Type());
+    auto& cabin = dynamic_cast<RecordingCanvas&>(form.cabin());
+    EXPECT_NEAR(cabin.scaleWidth(), 9375, kTwipsPerPixel);
+    EXPECT_NEAR(cabin.scaleHeight(), 1300, kTwipsPerPixel);
+    const std::size_t count = cabin.ops().size();
+    EXPECT_GT(count, 60u);
+
+    form.drawCabin();
+    ASSERT_EQ(cabin.ops().size(), 2 * count);
+    EXPECT_EQ(cabin.ops()[count].kind, DrawOp::Kind::Clear);
+}
+
+} // namespace
+} // namespace quillet

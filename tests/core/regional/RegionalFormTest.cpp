@@ -1,0 +1,316 @@
+#include "RegionalRig.h"
+#include "regional/RegionalForms.h"
+#include "shell/AircraftTypes.h"
+#include "shell/Form1.h"
+#include "shell/Settings.h"
+
+#include <gtest/gtest.h>
+
+namespace quillet {
+namespace {
+
+constexpr int kBeechPassenger1A = 3;
+constexpr int kBeechHold = 22;
+
+TEST(RegionalSetUp, WritesTheTypeTableIntoTheLoadState)
+{
+    struct Expected {
+        const RegionalType& type;
+        int stations;
+        float emptyweight, maxtakeoff, maxzerofuel;
+        int lastPassenger;
+        const char* lastPassengerName;
+    };
+    const Expected all[] = {
+        {beechType(), 23, 10615, 16950, 15000, 21, "Passenger 9C"},
+        {emb120Type(), 33, 15741, 25353, 22245, 31, "Passenger 10D"},
+        {dhc8Type(), 53, 25888, 43000, 39500, 51, "Passenger 12D"},
+    };
+    for (const Expected& expected : all) {
+        SCOPED_TRACE(expected.type.form);
+        RegionalRig rig;
+        LoadState& state = rig.session.state;
+        state.stationx[40] = 99; // left by another type
+        state.loadweight = 500;
+        rig.currentType = std::string(expected.type.type);
+        RegionalForm form(rig.session, expected.type);
+        form.Form_Load();
+
+        EXPECT_EQ(state.cfgstations, expected.stations);
+        EXPECT_EQ(state.nstations + state.ncargo, expected.stations);
+        EXPECT_EQ(state.maxpax, expected.lastPassenger - form.type().roles.firstPassenger + 1);
+        EXPECT_EQ(state.seats2, state.maxpax);
+        EXPECT_EQ(state.ncrew, 2);
+        EXPECT_EQ(state.emptyweight, expected.emptyweight);
+        EXPECT_EQ(state.maxtakeoff, expected.maxtakeoff);
+        EXPECT_EQ(state.maxzerofuel, expected.maxzerofuel);
+        EXPECT_EQ(state.loadweight, 0);
+        EXPECT_EQ(state.stationname[expected.lastPassenger], expected.lastPassengerName);
+        EXPECT_EQ(state.stationname[expected.stations - 1], "Cargo");
+        EXPECT_EQ(state.stationx[40], expected.stations > 40 ? state.stationx[40] : 0.0f);
+        ASSERT_EQ(form.location.size(), static_cast<std::size_t>(expected.stations));
+        for (int i = 0; i < expected.stations; ++i) {
+            EXPECT_EQ(form.location[i].tooltip, "Empty");
+            EXPECT_FALSE(form.Shape1[i].visible);
+            const TwipsRect& spot = form.location[i].rect;
+            EXPECT_LT(spot.centreY(), form.type().layout.cabin.height) << "station " << i;
+            EXPECT_LT(spot.centreX(), form.type().layout.cabin.width) << "station " << i;
+        }
+        EXPECT_EQ(form.labels.lblpass.text, "Passengers  0 / " + std::to_string(state.maxpax));
+    }
+
+    // Spot checks of the positions, straight from the tables.
+    RegionalRig rig;
+    rig.open(beechType());
+    EXPECT_EQ(rig.session.state.stationname[0], "Avionics");
+    EXPECT_EQ(rig.session.state.stationx[0], 18);
+    EXPECT_EQ(rig.session.state.stationx[1], 13.5f);
+    EXPECT_EQ(rig.session.state.stationy[1], -2);
+    rig.open(emb120Type());
+    EXPECT_EQ(rig.session.state.stationname[16], "Passenger 6A");
+    EXPECT_EQ(rig.session.state.stationx[16], -6.5f);
+    EXPECT_EQ(rig.session.state.stationy[16], -1);
+    rig.open(dhc8Type());
+    EXPECT_EQ(rig.session.state.stationx[6], 17);
+    EXPECT_EQ(rig.session.state.stationy[6], 1.6f);
+}
+
+TEST(RegionalSetUp, MarkersAreGreenCirclesOnSeatsAndHatchedBoxesOnHolds)
+{
+    RegionalRig rig;
+    RegionalForm& beech = rig.open(beechType());
+    EXPECT_EQ(beech.Shape1[0].kind, MarkerKind::HatchedBox);
+    EXPECT_EQ(beech.Shape1[0].fillStyle, FillStyle::DiagonalCross);
+    EXPECT_EQ(beech.Shape1[kBeechHold].kind, MarkerKind::HatchedBox);
+    EXPECT_EQ(beech.Shape1[kBeechPassenger1A].kind, MarkerKind::Circle);
+    EXPECT_EQ(beech.Shape1[kBeechPassenger1A].fillStyle, FillStyle::Solid);
+    EXPECT_EQ(beech.Shape1[kBeechPassenger1A].fillColor, kGreen);
+    EXPECT_EQ(beech.Shape1[kBeechPassenger1A].rect.width, 150);
+    EXPECT_EQ(rig.open(dhc8Type()).Shape1[2].rect.width, 135);
+}
+
+TEST(RegionalSetUp, OnlyTheBeechShowsItsStoredLoadWhileSettingUp)
+{
+    for (const RegionalType* type : regionalTypes()) {
+        SCOPED_TRACE(type->form);
+        RegionalRig rig;
+        RegionalForm& form = rig.open(*type);
+        rig.prompt.answer("170");
+        form.location_Click(5);
+        form.mnusave_Click();
+        rig.session.state.stationweight.fill(0);
+
+        form.Form_Load();
+        EXPECT_EQ(form.location[5].tooltip == "Empty", !type->readsStoredLoadAtSetUp);
+        form.mnuload_Click();
+        EXPECT_EQ(form.location[5].tooltip, rig.session.state.stationname[5] + " 170 lb.");
+        EXPECT_TRUE(form.Shape1[5].visible);
+    }
+}
+
+TEST(RegionalSetUp, AMissingPhotographLeavesItsPictureBlank)
+{
+    RegionalRig rig;
+    EXPECT_EQ(rig.open(emb120Type()).photo, rig.dir.path() / "emb120.gif");
+
+    std::filesystem::remove(rig.dir.path() / "dhc8.gif");
+    RegionalForm& form = rig.open(dhc8Type());
+    EXPECT_TRUE(form.photo.empty());
+    ASSERT_EQ(rig.session.messages.pending().size(), 1u);
+    EXPECT_NE(rig.session.messages.pending()[0].find("dhc8.gif"), std::string::npos);
+
+    rig.prompt.answer("170");
+    form.location_Click(2);
+    EXPECT_EQ(form.location[2].tooltip, "Passenger 1A 170 lb.");
+}
+
+TEST(RegionalSeatClick, AsksForTheWeightAndShowsIt)
+{
+    RegionalRig rig;
+    RegionalForm& form = rig.open(beechType());
+    rig.prompt.answer("170");
+    form.location_Click(kBeechPassenger1A);
+
+    ASSERT_EQ(rig.prompt.asked().size(), 1u);
+    EXPECT_EQ(rig.prompt.asked()[0].prompt, "Passenger 1A weight in lbs");
+    EXPECT_EQ(rig.prompt.asked()[0].title, "Pax Details");
+    EXPECT_EQ(rig.prompt.asked()[0].defaultText, "170");
+    EXPECT_EQ(form.location[kBeechPassenger1A].tooltip, "Passenger 1A 170 lb.");
+    EXPECT_TRUE(form.Shape1[kBeechPassenger1A].visible);
+    EXPECT_EQ(rig.session.state.loadweight, 170);
+    EXPECT_EQ(form.labels.lblpax.text, "PAX weight =  170 lb.");
+    EXPECT_EQ(form.labels.lblpass.text, "Passengers  1 / 19");
+}
+
+TEST(RegionalSeatClick, EmptiesAnOccupiedSeatWithoutAsking)
+{
+    RegionalRig rig;
+    RegionalForm& form = rig.open(beechType());
+    rig.prompt.answer("170");
+    form.location_Click(kBeechPassenger1A);
+    form.location_Click(kBeechPassenger1A);
+
+    EXPECT_EQ(rig.prompt.asked().size(), 1u);
+    EXPECT_EQ(form.location[kBeechPassenger1A].tooltip, "Empty");
+    EXPECT_FALSE(form.Shape1[kBeechPassenger1A].visible);
+    EXPECT_EQ(rig.session.state.stationweight[kBeechPassenger1A], 0);
+    EXPECT_EQ(rig.session.state.loadweight, 0);
+    EXPECT_EQ(form.labels.lblpax.text, "PAX weight =  0 lb.");
+
+    form.location_Click(kBeechPassenger1A); // empty again: asks again
+    EXPECT_EQ(rig.prompt.asked().size(), 2u);
+}
+
+TEST(RegionalSeatClick, AnswersThatAreNoWeightLeaveTheSeatEmpty)
+{
+    RegionalRig rig;
+    RegionalForm& form = rig.open(emb120Type());
+    rig.prompt.answer("200");
+    form.location_Click(3);
+
+    for (const char* answer : {"0", "-80", "abc", "", "1e39", "1e-60"}) {
+        SCOPED_TRACE(answer);
+        rig.prompt.answer(answer);
+        form.location_Click(4);
+        EXPECT_EQ(form.location[4].tooltip, "Empty");
+        EXPECT_FALSE(form.Shape1[4].visible);
+        EXPECT_EQ(rig.session.state.stationweight[4], 0);
+        EXPECT_EQ(rig.session.state.loadweight, 200);
+    }
+    rig.prompt.cancel();
+    form.location_Click(4);
+    EXPECT_EQ(form.location[4].tooltip, "Empty");
+    EXPECT_EQ(rig.session.state.loadweight, 200);
+}
+
+TEST(RegionalSeatClick, ReadsTheLeadingNumberAndKeepsItsDecimals)
+{
+    RegionalRig rig;
+    RegionalForm& form = rig.open(dhc8Type());
+    rig.prompt.answer("85 kg");
+    form.location_Click(2);
+    EXPECT_EQ(rig.session.state.stationweight[2], 85);
+
+    rig.prompt.answer("182.6");
+    form.location_Click(3);
+    EXPECT_EQ(rig.session.state.stationweight[3], 182.6f);
+    EXPECT_EQ(form.location[3].tooltip, "Passenger 1B 183 lb.");
+    EXPECT_EQ(rig.session.state.loadweight, 85 + 182.6f);
+}
+
+TEST(RegionalSeatClick, HoldAndAvionicsBayAreEditedLikeSeats)
+{
+    RegionalRig rig;
+    RegionalForm& form = rig.open(beechType());
+    rig.prompt.answer("400");
+    form.location_Click(kBeechHold);
+    rig.prompt.answer("60");
+    form.location_Click(0);
+
+    ASSERT_EQ(rig.prompt.asked().size(), 2u);
+    EXPECT_EQ(rig.prompt.asked()[0].prompt, "Cargo weight in lbs");
+    EXPECT_EQ(rig.prompt.asked()[1].prompt, "Avionics weight in lbs");
+    EXPECT_EQ(rig.prompt.asked()[1].title, "Pax Details");
+    EXPECT_EQ(form.location[kBeechHold].tooltip, "Cargo 400 lb.");
+    EXPECT_EQ(form.location[0].tooltip, "Avionics 60 lb.");
+    EXPECT_TRUE(form.Shape1[kBeechHold].visible);
+    EXPECT_EQ(rig.session.state.loadweight, 460);
+
+    form.location_Click(kBeechHold);
+    EXPECT_EQ(rig.session.state.loadweight, 60);
+    EXPECT_FALSE(form.Shape1[kBeechHold].visible);
+}
+
+TEST(RegionalSeatClick, OnlyPassengerSeatsCountAsPassengers)
+{
+    RegionalRig rig;
+    RegionalForm& form = rig.open(beechType());
+    for (int station : {0, 1, 2, 22, 3, 21}) {
+        rig.prompt.answer("100");
+        form.location_Click(station);
+    }
+    EXPECT_EQ(rig.session.state.npax, 2);
+    EXPECT_EQ(form.labels.lblpass.text, "Passengers  2 / 19");
+    EXPECT_EQ(rig.session.state.loadweight, rig.sumOfWeights());
+}
+
+TEST(RegionalSeatClick, StationsBeyondTheFormAreLeftAlone)
+{
+    RegionalRig rig;
+    RegionalForm& form = rig.open(beechType());
+    form.location_Click(-1);
+    form.location_Click(23);
+    EXPECT_TRUE(rig.prompt.asked().empty());
+
+    // A hand-edited station file may count more stations than the form shows.
+    rig.session.state.cfgstations = 400;
+    rig.session.state.stationweight[100] = 50;
+    rig.session.state.stationweight[4] = 120;
+    form.redraw();
+    EXPECT_EQ(form.location[4].tooltip, "Passenger 1C 120 lb.");
+}
+
+TEST(RegionalForm, RedrawFollowsTheWeights)
+{
+    RegionalRig rig;
+    RegionalForm& form = rig.open(emb120Type());
+    rig.prompt.answer("170");
+    form.location_Click(2);
+    rig.session.state.stationweight[2] = 0;
+    rig.session.state.stationweight[32] = 333.4f;
+    form.redraw();
+    EXPECT_EQ(form.location[2].tooltip, "Empty");
+    EXPECT_FALSE(form.Shape1[2].visible);
+    EXPECT_EQ(form.location[32].tooltip, "Cargo 333 lb.");
+    EXPECT_TRUE(form.Shape1[32].visible);
+}
+
+TEST(RegionalForm, OnlyTheBeechRefreshesTheMainWindowWhenItLosesTheFocus)
+{
+    RegionalRig rig;
+    rig.open(beechType()).Form_LostFocus();
+    EXPECT_EQ(rig.mainRefreshes, 1);
+    rig.open(dhc8Type()).Form_LostFocus();
+    EXPECT_EQ(rig.mainRefreshes, 1);
+}
+
+TEST(RegionalForm, TheMainWindowOpensAndClosesTheForms)
+{
+    RegionalRig rig;
+    std::vector<MenuEntry> entries;
+    for (int i = 0; i < 3; ++i)
+        entries.push_back({rig.session.state.menutype[i], rig.session.state.menufolder[i]});
+    rig.dir.write("quillet.ini", formatSettings(rig.session.state.simfolder, entries));
+    FormRegistry registry;
+    registerRegionalForms(registry);
+    for (const char* name : {"Beech", "Emb120", "DHC8"})
+        EXPECT_TRUE(registry.provides(name));
+    for (const RegionalType* type : regionalTypes()) {
+        const AircraftType* known = findAircraftType(type->type);
+        ASSERT_NE(known, nullptr);
+        EXPECT_EQ(known->form, type->form);
+        EXPECT_EQ(known->picture, type->layout.photoFile);
+    }
+
+    Form1 main(rig.session, registry);
+    main.Form_Load();
+    main.Combo1.setListIndex(2);
+    EXPECT_EQ(rig.session.state.maxpax, 50);
+    EXPECT_EQ(main.lblbow.text, "Basic Operating weight = 25888 lb.");
+
+    main.Command2_Click();
+    auto* form = dynamic_cast<RegionalForm*>(registry.existing("DHC8"));
+    ASSERT_NE(form, nullptr);
+    EXPECT_TRUE(form->visible);
+    EXPECT_FALSE(main.visible);
+
+    rig.prompt.answer("170");
+    form->location_Click(2);
+    form->Form_Unload();
+    EXPECT_FALSE(form->visible);
+    EXPECT_TRUE(main.visible);
+    EXPECT_EQ(main.lblpax.text, "PAX weight =  0 lb.") << "the unsaved seat is not the stored load";
+}
+
+} // namespace
+} // namespace quillet
