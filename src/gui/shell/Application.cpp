@@ -6,6 +6,8 @@
 #include "TextWindow.h"
 #include "platform/QtCanvas.h"
 #include "platform/QtPrompt.h"
+#include "regional/RegionalForms.h"
+#include "regional/RegionalWindow.h"
 #include "shell/AboutText.h"
 
 #include <QApplication>
@@ -22,6 +24,8 @@ Application::Application(std::filesystem::path programFolder, Prompt* prompt)
     m_session = std::make_unique<Session>(*prompt, m_random, m_clock, std::move(programFolder));
     m_session->makeCanvas = [](double width, double height) { return std::make_unique<QtCanvas>(width, height); };
     m_form1 = std::make_unique<Form1>(*m_session, m_forms);
+    registerRegionalForms(m_forms);
+    registerRegionalWindows(*this);
 
     showMessage = [this](const std::string& text) {
         QWidget* parent = QApplication::activeWindow();

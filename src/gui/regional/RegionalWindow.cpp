@@ -1,0 +1,235 @@
+#include "RegionalWindow.h"
+
+#include "platform/PictureBox.h"
+#include "platform/QtCanvas.h"
+#include "platform/Twips.h"
+#include "platform/Widgets.h"
+#include "regional/RegionalForm.h"
+#include "regional/RegionalType.h"
+#include "shell/Application.h"
+
+#include <QFocusEvent>
+#include <QFrame>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace quillet {
+
+namespace {
+
+QString latin(std::string_view text)
+{
+    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+void place(QWidget* widget, const TwipsRect& rect)
+{
+    quillet::place(widget, rect.left, rect.top, rect.width, rect.height);
+}
+
+// A hot spot: a transparent label without caption; a press on it edits its station.
+class HotSpotLabel : public QLabel {
+public:
+    HotSpotLabel(QWidget* parent, std::function<void()> onPress) : QLabel(parent), m_onPress(std::move(onPress)) {}
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        if (event->button() == Qt::LeftButton)
+            m_onPress();
+    }
+
+private:
+    std::function<void()> m_onPress;
+};
+
+} // namespace
+
+// A station's marker: a green filled circle on a seat, a green cross-hatched rounded box on a hold.
+class MarkerWidget : public QWidget {
+public:
+    MarkerWidget(QWidget* parent, const Marker& marker) : QWidget(parent), m_marker(marker)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAttribute(Qt::WA_TranslucentBackground);
+        place(this, marker.rect);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        const QColor fill = toQColor(m_marker.fillColor);
+        const QRectF box = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+        if (m_marker.kind == MarkerKind::Circle) {
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(fill);
+            painter.setBrush(fill);
+            painter.drawEllipse(box);
+        } else {
+            painter.setPen(QPen(fill, 1));
+            painter.setBrush(QBrush(fill, Qt::DiagCrossPattern));
+            painter.drawRoundedRect(box, 6, 6);
+        }
+    }
+
+private:
+    Marker m_marker;
+};
+
+RegionalWindow::RegionalWindow(RegionalForm& form, Application& app)
+    : LoadFormWindow(form, app), m_regional(form)
+{
+    const RegionalType& type = form.type();
+    const RegionalLayout& layout = type.layout;
+    setObjectName(latin(type.form));
+    setWindowTitle(latin(type.caption));
+    buildMenus();
+
+    m_client = new QWidget(this);
+    m_client->setFixedSize(twipsRect(0, 0, layout.clientWidth, layout.clientHeight).size());
+    setCentralWidget(m_client);
+
+    auto* cabin = new PictureBox(m_client);
+    cabin->setObjectName(latin(layout.cabinName));
+    place(cabin, layout.cabin);
+    cabin->setCanvas(dynamic_cast<QtCanvas*>(&form.cabin()));
+    // Markers under the hot spots, so that every press reaches a hot spot.
+    for (const Marker& marker : form.Shape1) {
+        auto* widget = new MarkerWidget(cabin, marker);
+        widget->setObjectName(QStringLiteral("Shape1(%1)").arg(m_markers.size()));
+        m_markers.push_back(widget);
+    }
+    for (std::size_t i = 0; i < form.location.size(); ++i) {
+        const int station = static_cast<int>(i);
+        auto* spot = new HotSpotLabel(cabin, [this, station] {
+            m_app.handle([this, station] { m_regional.location_Click(station); });
+        });
+        spot->setObjectName(QStringLiteral("location(%1)").arg(station));
+        place(spot, form.location[i].rect);
+        m_hotSpots.push_back(spot);
+    }
+
+    m_photo = new PictureBox(m_client);
+    m_photo->setObjectName(latin(layout.photoName));
+    place(m_photo, layout.photo);
+
+    auto* picture4 = new PictureBox(m_client);
+    picture4->setObjectName(QStringLiteral("Picture4"));
+    place(picture4, layout.Picture4);
+    picture4->setCanvas(dynamic_cast<QtCanvas*>(&form.Picture4()));
+    auto* picture3 = new PictureBox(m_client);
+    picture3->setObjectName(QStringLiteral("Picture3"));
+    place(picture3, layout.Picture3);
+    picture3->setCanvas(dynamic_cast<QtCanvas*>(&form.Picture3()));
+
+    QLabel* caption4 = label("Label2", layout.Label2);
+    caption4->setText(latin(kLabel2Text));
+    caption4->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    QLabel* caption3 = label("Label3", layout.Label3);
+    caption3->setText(latin(kLabel3Text));
+    caption3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    QLabel* heading = label("Label1", layout.Label1);
+    heading->setText(latin(kLabel1Text));
+    QFont headingFont(latin(kLabel1Font));
+    headingFont.setPointSizeF(kLabel1Points);
+    headingFont.setBold(true);
+    heading->setFont(headingFont);
+
+    m_lblbow = label("lblbow", layout.lblbow);
+    m_lblpax = label("lblpax", layout.lblpax);
+    m_lblmf = label("lblmf", layout.lblmf);
+    m_lbltot = label("lbltot", layout.lbltot);
+    for (QLabel* right : {m_lblbow, m_lblpax, m_lblmf, m_lbltot})
+        right->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    m_warning = label("warning", layout.warning);
+    m_warning->setWordWrap(true);
+    m_lblpass = label("lblpass", layout.lblpass);
+    m_lblmaxtow = label("lblmaxtow", layout.lblmaxtow);
+    m_lblmaxfuel = label("lblmaxfuel", layout.lblmaxfuel);
+
+    // Line1 runs across the form under the load line.
+    const TwipsLine& line = layout.Line1;
+    auto* rule = new QFrame(m_client);
+    rule->setObjectName(QStringLiteral("Line1"));
+    const int left = twipsToPixels(std::min(line.x1, line.x2));
+    rule->setGeometry(left, twipsToPixels(line.y1), twipsToPixels(std::max(line.x1, line.x2)) - left + 1, 1);
+    rule->setStyleSheet(QStringLiteral("background-color: black;"));
+
+    sync();
+}
+
+QLabel* RegionalWindow::label(const char* name, const TwipsRect& rect)
+{
+    auto* widget = new QLabel(m_client);
+    widget->setObjectName(QString::fromLatin1(name));
+    widget->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    place(widget, rect);
+    return widget;
+}
+
+void RegionalWindow::buildMenus()
+{
+    const RegionalMenus& menus = m_regional.type().menus;
+    const auto item = [this](QMenu* menu, const MenuItem& spec, void (RegionalForm::*handler)()) {
+        QAction* action = menu->addAction(latin(spec.caption));
+        action->setObjectName(latin(spec.name));
+        connect(action, &QAction::triggered, this,
+                [this, handler] { m_app.handle([this, handler] { (m_regional.*handler)(); }); });
+    };
+    QMenu* file = menuBar()->addMenu(latin(menus.mnufile.caption));
+    file->setObjectName(latin(menus.mnufile.name));
+    item(file, menus.mnuload, &RegionalForm::mnuload_Click);
+    item(file, menus.mnusave, &RegionalForm::mnusave_Click);
+    QMenu* presets = menuBar()->addMenu(latin(menus.mnuauto.caption));
+    presets->setObjectName(latin(menus.mnuauto.name));
+    item(presets, menus.mnulight, &RegionalForm::mnulight_Click);
+    item(presets, menus.mnumed, &RegionalForm::mnumed_Click);
+    item(presets, menus.mnuheav, &RegionalForm::mnuheav_Click);
+}
+
+void RegionalWindow::sync()
+{
+    for (std::size_t i = 0; i < m_hotSpots.size() && i < m_regional.location.size(); ++i)
+        m_hotSpots[i]->setToolTip(toQString(m_regional.location[i].tooltip));
+    for (std::size_t i = 0; i < m_markers.size() && i < m_regional.Shape1.size(); ++i)
+        m_markers[i]->setVisible(m_regional.Shape1[i].visible);
+
+    const QString photo = QString::fromStdString(m_regional.photo.string());
+    if (photo != m_shownPhoto) {
+        m_shownPhoto = photo;
+        m_photo->setPicture(loadPicture(m_regional.photo, m_app.session().messages));
+    }
+
+    const SummaryLabels& labels = m_regional.labels;
+    showState(m_lblbow, labels.lblbow);
+    showState(m_lblpax, labels.lblpax);
+    showState(m_lblmf, labels.lblmf);
+    showState(m_lbltot, labels.lbltot);
+    showState(m_warning, labels.warning);
+    showState(m_lblpass, labels.lblpass);
+    showState(m_lblmaxtow, labels.lblmaxtow);
+    showState(m_lblmaxfuel, labels.lblmaxfuel);
+}
+
+void RegionalWindow::focusOutEvent(QFocusEvent* event)
+{
+    // Only the form itself losing the focus counts, as in the toolkit the forms were designed for;
+    // its picture boxes take the focus when clicked, so this seldom happens.
+    if (m_regional.type().refreshesMainOnLostFocus && m_regional.visible)
+        m_app.handle([this] { m_regional.Form_LostFocus(); });
+    LoadFormWindow::focusOutEvent(event);
+}
+
+void registerRegionalWindows(Application& app)
+{
+    for (const RegionalType* type : regionalTypes()) {
+        app.addWindow(std::string(type->form), [](LoadForm& form, Application& application) -> LoadFormWindow* {
+            return new RegionalWindow(static_cast<RegionalForm&>(form), application);
+        });
+    }
+}
+
+} // namespace quillet
