@@ -91,6 +91,8 @@ ConfigDialog::ConfigDialog(Application& app, QWidget* parent)
     m_check2 = new QCheckBox(this);
     m_check2->setObjectName(QStringLiteral("Check2"));
     place(m_check2, 4560, 2040, 135, 195);
+    // The designed box is smaller than this style's indicator; grow it from its corner so it shows whole.
+    m_check2->resize(m_check2->size().expandedTo(m_check2->sizeHint()));
     connect(m_check2, &QCheckBox::toggled, this,
             [this](bool checked) { m_app.handle([this, checked] { m_form.Check2 = checked; }); });
 

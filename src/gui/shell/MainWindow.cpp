@@ -96,6 +96,10 @@ void MainWindow::buildConverter()
     auto* frame = new QGroupBox(QStringLiteral("Converter"), centralWidget());
     frame->setObjectName(QStringLiteral("Converter"));
     place(frame, 6720, 1680, 1575, 1095);
+    // The caption sits in the top edge of the frame, so the rows keep their designed places inside.
+    frame->setStyleSheet(QStringLiteral(
+        "QGroupBox { border: 1px solid palette(mid); margin-top: 6px; }"
+        "QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 6px; padding: 0 2px; }"));
 
     m_labelkg = makeLabel(frame, "Labelkg", 240, 280, 855, 255);
     m_labellb = makeLabel(frame, "Labellb", 240, 640, 855, 255);
