@@ -4,7 +4,7 @@
 #include "shell/Application.h"
 #include "shell/MainWindow.h"
 
-#include "TempDir.h"
+#include "ProgramFolder.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -21,24 +21,9 @@
 
 namespace quillet {
 
-// The whole program in a temporary program folder, with a simulator folder beside its files.
+// The whole program running on a program folder of its own.
 class GuiFixture : public ::testing::Test {
 protected:
-    std::string sim() const { return (dir.path() / "sim").string(); }
-
-    void makeSimulator() const { dir.write("sim/fs2000.exe", "placeholder"); }
-    void makeAircraft(const std::string& folder, const std::string& bytes = "[fltsim.0]\r\ntitle=test\r\n") const
-    {
-        dir.write("sim/aircraft/" + folder + "/aircraft.cfg", bytes);
-    }
-    void writeIni(const std::string& simfolder, const std::vector<std::string>& entries) const
-    {
-        std::string text = simfolder + "\r\n" + std::to_string(entries.size()) + "\r\n";
-        for (const auto& entry : entries)
-            text += entry + "\r\n";
-        dir.write("quillet.ini", text);
-    }
-
     void start()
     {
         app = std::make_unique<Application>(dir.path(), &prompt);
@@ -58,7 +43,7 @@ protected:
     }
     QString text(const char* label) const { return find<QLabel>(main(), label)->text(); }
 
-    TempDir dir;
+    ProgramFolder dir;
     ScriptedPrompt prompt;
     std::unique_ptr<Application> app;
     std::vector<std::string> told;

@@ -6,11 +6,14 @@
 #include "TextWindow.h"
 #include "platform/QtCanvas.h"
 #include "platform/QtPrompt.h"
+#include "platform/Twips.h"
 #include "regional/RegionalForms.h"
 #include "regional/RegionalWindow.h"
 #include "shell/AboutText.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMessageBox>
 
 namespace quillet {
@@ -69,6 +72,23 @@ void Application::handle(const std::function<void()>& handler)
         showMessage(text);
     if (m_form1->ended)
         QApplication::quit();
+}
+
+void Application::bind(QLineEdit* edit, TextBoxState& box)
+{
+    connect(edit, &QLineEdit::textEdited, this,
+            [this, &box](const QString& text) { handle([&box, text] { box.setText(fromQString(text)); }); });
+    // The box shows the core's text again once the user has finished typing in it.
+    connect(edit, &QLineEdit::editingFinished, this, [this, edit] {
+        edit->setModified(false);
+        handle([] {});
+    });
+}
+
+void Application::bind(QComboBox* combo, ComboState& state)
+{
+    connect(combo, &QComboBox::activated, this,
+            [this, &state](int index) { handle([&state, index] { state.setListIndex(index); }); });
 }
 
 LoadFormWindow* Application::window(const std::string& formName) const

@@ -8,6 +8,9 @@
 
 #include <QObject>
 
+class QComboBox;
+class QLineEdit;
+
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -36,6 +39,10 @@ public:
     // Runs the main window's start-up and shows the windows it asks for.
     void start();
     void handle(const std::function<void()>& handler);
+
+    // Forwards a text box's edits and a combo box's choices to the core controls they show.
+    void bind(QLineEdit* edit, TextBoxState& box);
+    void bind(QComboBox* combo, ComboState& state);
 
     Session& session() { return *m_session; }
     Form1& form1() { return *m_form1; }

@@ -46,8 +46,7 @@ ConfigDialog::ConfigDialog(Application& app, QWidget* parent)
     m_combo1 = new QComboBox(this);
     m_combo1->setObjectName(QStringLiteral("Combo1"));
     place(m_combo1, 720, 360, 1935, 315);
-    connect(m_combo1, &QComboBox::activated, this,
-            [this](int index) { m_app.handle([this, index] { m_form.Combo1.setListIndex(index); }); });
+    m_app.bind(m_combo1, m_form.Combo1);
 
     m_validDir = new QLineEdit(this);
     m_validDir->setObjectName(QStringLiteral("Valid_dir"));
@@ -60,22 +59,11 @@ ConfigDialog::ConfigDialog(Application& app, QWidget* parent)
     m_combo2 = new QComboBox(this);
     m_combo2->setObjectName(QStringLiteral("Combo2"));
     place(m_combo2, 720, 1080, 1935, 315);
-    connect(m_combo2, &QComboBox::activated, this,
-            [this](int index) { m_app.handle([this, index] { m_form.Combo2.setListIndex(index); }); });
-
-    const auto bindEdit = [this](QLineEdit* edit, TextBoxState& box) {
-        connect(edit, &QLineEdit::textEdited, this, [this, &box](const QString& text) {
-            m_app.handle([&box, text] { box.setText(fromQString(text)); });
-        });
-        connect(edit, &QLineEdit::editingFinished, this, [this, edit] {
-            edit->setModified(false);
-            m_app.handle([] {});
-        });
-    };
+    m_app.bind(m_combo2, m_form.Combo2);
     m_invalidDir = new QLineEdit(this);
     m_invalidDir->setObjectName(QStringLiteral("invalid_dir"));
     place(m_invalidDir, 2760, 1080, 1695, 285);
-    bindEdit(m_invalidDir, m_form.invalid_dir);
+    m_app.bind(m_invalidDir, m_form.invalid_dir);
 
     m_add = new QPushButton(QStringLiteral("Add"), this);
     m_add->setObjectName(QStringLiteral("Command1"));
@@ -86,7 +74,7 @@ ConfigDialog::ConfigDialog(Application& app, QWidget* parent)
     m_simdir = new QLineEdit(this);
     m_simdir->setObjectName(QStringLiteral("simdir"));
     place(m_simdir, 360, 1920, 4095, 375);
-    bindEdit(m_simdir, m_form.simdir);
+    m_app.bind(m_simdir, m_form.simdir);
 
     m_check2 = new QCheckBox(this);
     m_check2->setObjectName(QStringLiteral("Check2"));

@@ -65,8 +65,7 @@ MainWindow::MainWindow(Application& app) : m_app(app), m_form(app.form1())
     m_combo1->setObjectName(QStringLiteral("Combo1"));
     place(m_combo1, 480, 1680, 2295, 315);
     m_combo1->installEventFilter(this);
-    connect(m_combo1, &QComboBox::activated, this,
-            [this](int index) { m_app.handle([this, index] { m_form.Combo1.setListIndex(index); }); });
+    m_app.bind(m_combo1, m_form.Combo1);
 
     auto* adjust = new QPushButton(QStringLiteral("Adjust"), client);
     adjust->setObjectName(QStringLiteral("Command2"));
@@ -113,13 +112,7 @@ void MainWindow::buildConverter()
         edit->setObjectName(QString::fromLatin1(name));
         place(edit, 240, top, 855, 285);
         edit->installEventFilter(this);
-        connect(edit, &QLineEdit::textEdited, this, [this, &box](const QString& text) {
-            m_app.handle([&box, text] { box.setText(fromQString(text)); });
-        });
-        connect(edit, &QLineEdit::editingFinished, this, [this, edit] {
-            edit->setModified(false);
-            m_app.handle([] {});
-        });
+        m_app.bind(edit, box);
         return edit;
     };
     m_textkg = makeEdit("Textkg", 240, converter.Textkg);

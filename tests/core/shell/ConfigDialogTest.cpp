@@ -11,9 +11,9 @@ using ConfigDialog = ShellFixture;
 
 TEST_F(ConfigDialog, TypingTheSimulatorFolderStoresItOnlyWhenItHoldsTheSimulator)
 {
-    makeSimulator();
-    makeAircraft("b737_300");
-    writeIni("nowhere", {"B737-300,b737_300"});
+    dir.makeSimulator("FS2000.EXE");
+    dir.makeAircraft("b737_300");
+    dir.writeIni("nowhere", {"B737-300,b737_300"});
     form1.Form_Load();
     ASSERT_FALSE(form1.form4().Check2);
     ASSERT_TRUE(form1.Combo1.items().empty());
@@ -21,7 +21,7 @@ TEST_F(ConfigDialog, TypingTheSimulatorFolderStoresItOnlyWhenItHoldsTheSimulator
     // Type the folder letter by letter, then a trailing slash and one letter more. Before each
     // keystroke the settings file is removed and the main list marked, to see whether that keystroke
     // wrote the file and read it back.
-    const std::string folder = sim() + "/";
+    const std::string folder = dir.sim() + "/";
     std::vector<std::size_t> stored;
     std::vector<std::size_t> reloaded;
     std::string typed;
@@ -36,31 +36,31 @@ TEST_F(ConfigDialog, TypingTheSimulatorFolderStoresItOnlyWhenItHoldsTheSimulator
         if (form1.Combo1.items() != std::vector<std::string>{"marker"})
             reloaded.push_back(typed.size());
     }
-    const std::vector<std::size_t> expected{sim().size(), sim().size() + 1};
+    const std::vector<std::size_t> expected{dir.sim().size(), dir.sim().size() + 1};
     EXPECT_EQ(stored, expected);
     EXPECT_EQ(reloaded, expected);
     EXPECT_TRUE(form1.form4().Check2);
-    EXPECT_EQ(state.simfolder, sim() + "/") << "the last folder that held the simulator";
+    EXPECT_EQ(state.simfolder, dir.sim() + "/") << "the last folder that held the simulator";
 }
 
 TEST_F(ConfigDialog, StoringWritesTheFolderAndTheMenu)
 {
-    makeSimulator();
-    makeAircraft("b737_300");
-    writeIni("nowhere", {"B737-300,b737_300", "Beech 1900D,beech"});
+    dir.makeSimulator("FS2000.EXE");
+    dir.makeAircraft("b737_300");
+    dir.writeIni("nowhere", {"B737-300,b737_300", "Beech 1900D,beech"});
     form1.Form_Load();
-    form1.form4().simdir.setText(sim());
-    EXPECT_EQ(ini(), sim() + "\r\n2\r\nB737-300,b737_300\r\nBeech 1900D,beech\r\n");
+    form1.form4().simdir.setText(dir.sim());
+    EXPECT_EQ(dir.ini(), dir.sim() + "\r\n2\r\nB737-300,b737_300\r\nBeech 1900D,beech\r\n");
     EXPECT_EQ(form1.Combo1.items(), std::vector<std::string>{"B737-300"});
 }
 
 TEST_F(ConfigDialog, StartingWithoutTheSimulatorOpensTheDialogUnchecked)
 {
-    writeIni(sim(), {"B737-300,b737_300"});
+    dir.writeIni(dir.sim(), {"B737-300,b737_300"});
     form1.Form_Load();
     EXPECT_TRUE(form1.form4().visible);
     EXPECT_FALSE(form1.form4().Check2);
-    EXPECT_EQ(form1.form4().simdir.text(), sim());
+    EXPECT_EQ(form1.form4().simdir.text(), dir.sim());
 }
 
 TEST_F(ConfigDialog, StartingWithTheBoxsOwnTextRunsNoCheck)
@@ -68,7 +68,7 @@ TEST_F(ConfigDialog, StartingWithTheBoxsOwnTextRunsNoCheck)
     // The default folder, made to exist below the program folder where a relative path leads.
     const std::string initial = "C:\\program files\\microsoft games\\fs2000";
     dir.write("C:/program files/microsoft games/fs2000/fs2000.exe", "x");
-    writeIni(initial, {});
+    dir.writeIni(initial, {});
     form1.Form_Load();
     EXPECT_TRUE(form1.form4().visible);
     EXPECT_FALSE(form1.form4().Check2);
@@ -81,10 +81,10 @@ TEST_F(ConfigDialog, StartingWithTheBoxsOwnTextRunsNoCheck)
 
 TEST_F(ConfigDialog, AddingAnEntryMovesItToTheActiveList)
 {
-    makeSimulator();
-    makeAircraft("b737_300");
-    makeAircraft("beech_new");
-    writeIni(sim(), {"B737-300,b737_300", "Beech 1900D,oldbeech", "DHC-8-300,dhc8"});
+    dir.makeSimulator("FS2000.EXE");
+    dir.makeAircraft("b737_300");
+    dir.makeAircraft("beech_new");
+    dir.writeIni(dir.sim(), {"B737-300,b737_300", "Beech 1900D,oldbeech", "DHC-8-300,dhc8"});
     form1.Form_Load();
     Form4& dialog = form1.form4();
     EXPECT_EQ(dialog.Combo2.items(), (std::vector<std::string>{"Beech 1900D", "DHC-8-300"}));
@@ -117,7 +117,7 @@ TEST_F(ConfigDialog, AddingAnEntryMovesItToTheActiveList)
     EXPECT_FALSE(form1.form4Window().visible);
     EXPECT_FALSE(form1.form4Window().isLoaded());
     EXPECT_EQ(form1.Combo1.items(), (std::vector<std::string>{"B737-300", "Beech 1900D"}));
-    EXPECT_NE(ini().find("Beech 1900D,BEECH_NEW\r\n"), std::string::npos);
+    EXPECT_NE(dir.ini().find("Beech 1900D,BEECH_NEW\r\n"), std::string::npos);
 
     // Opened again, the dialog builds its lists afresh.
     form1.mnuconfigair_Click();
@@ -128,20 +128,20 @@ TEST_F(ConfigDialog, AddingAnEntryMovesItToTheActiveList)
 
 TEST_F(ConfigDialog, EveryFolderValidLeavesNothingToAdd)
 {
-    makeSimulator();
-    makeAircraft("b737_300");
-    writeIni(sim(), {"B737-300,b737_300"});
+    dir.makeSimulator("FS2000.EXE");
+    dir.makeAircraft("b737_300");
+    dir.writeIni(dir.sim(), {"B737-300,b737_300"});
     form1.Form_Load();
     Form4& dialog = form1.form4();
     EXPECT_TRUE(dialog.Combo2.items().empty());
     dialog.invalid_dir.setText("b737_300");
     EXPECT_TRUE(dialog.Command1_visible);
-    const std::string before = ini();
+    const std::string before = dir.ini();
     dialog.Command1_Click();
     EXPECT_TRUE(dialog.Combo2.items().empty());
     EXPECT_EQ(dialog.Combo1.items(), std::vector<std::string>{"B737-300"});
     EXPECT_EQ(state.menufolder[0], "b737_300");
-    EXPECT_EQ(ini(), before);
+    EXPECT_EQ(dir.ini(), before);
 }
 
 TEST_F(ConfigDialog, AMissingSettingsFileIsCreatedWhenTheDialogCloses)
@@ -149,20 +149,20 @@ TEST_F(ConfigDialog, AMissingSettingsFileIsCreatedWhenTheDialogCloses)
     form1.Form_Load();
     ASSERT_TRUE(form1.form4().visible);
     form1.form4Window().close();
-    EXPECT_EQ(ini(), "C:\\program files\\microsoft games\\fs2000\r\n0\r\n");
+    EXPECT_EQ(dir.ini(), "C:\\program files\\microsoft games\\fs2000\r\n0\r\n");
 }
 
 TEST_F(ConfigDialog, ASettingsFileThatCannotBeWrittenIsReported)
 {
-    makeSimulator();
-    writeIni("nowhere", {});
+    dir.makeSimulator("FS2000.EXE");
+    dir.writeIni("nowhere", {});
     form1.Form_Load();
     session.messages.take();
     fs::create_directory(dir.path() / "quillet.ini.quillet-new"); // the temporary cannot be made
-    form1.form4().simdir.setText(sim());
+    form1.form4().simdir.setText(dir.sim());
     ASSERT_EQ(session.messages.pending().size(), 1u);
     EXPECT_NE(session.messages.pending()[0].find("The settings were not saved"), std::string::npos);
-    EXPECT_EQ(ini(), "nowhere\r\n0\r\n");
+    EXPECT_EQ(dir.ini(), "nowhere\r\n0\r\n");
 }
 
 } // namespace

@@ -44,10 +44,10 @@ class MainWindow : public ShellFixture {
 protected:
     void SetUp() override
     {
-        makeSimulator();
-        makeAircraft("beech");
-        makeAircraft("b767");
-        writeIni(sim(), {"Beech 1900D,beech", "B767-300ER,b767", "beech 1900d,beech"});
+        dir.makeSimulator("FS2000.EXE");
+        dir.makeAircraft("beech");
+        dir.makeAircraft("b767");
+        dir.writeIni(dir.sim(), {"Beech 1900D,beech", "B767-300ER,b767", "beech 1900d,beech"});
         forms.add("Beech", [this](Session& s) {
             auto form = std::make_unique<FakeForm>(s, 10615, 340);
             beech = form.get();
@@ -124,7 +124,7 @@ TEST_F(MainWindow, AdjustOpensTheFormAndClosingItBringsTheMainWindowBack)
 
 TEST_F(MainWindow, EmptyListAdjustDoesNothing)
 {
-    writeIni(sim(), {});
+    dir.writeIni(dir.sim(), {});
     form1.Form_Load();
     form1.Command2_Click();
     EXPECT_TRUE(form1.visible);

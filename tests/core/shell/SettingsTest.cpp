@@ -65,11 +65,11 @@ using StartUp = ShellFixture;
 
 TEST_F(StartUp, ListsOnlyEntriesWhoseFolderHoldsAircraftCfgInAnyCase)
 {
-    makeSimulator();
-    makeAircraft("b737_300", "AIRCRAFT.CFG");
-    makeAircraft("beech");
+    dir.makeSimulator("FS2000.EXE");
+    dir.makeAircraft("b737_300", "AIRCRAFT.CFG");
+    dir.makeAircraft("beech");
     dir.write("sim/aircraft/empty/readme.txt", "no cfg here");
-    writeIni(sim(), {"B737-300,b737_300", "DHC-8-300,empty", "Beech 1900D,beech", "MD-90-30,missing"});
+    dir.writeIni(dir.sim(), {"B737-300,b737_300", "DHC-8-300,empty", "Beech 1900D,beech", "MD-90-30,missing"});
 
     form1.Form_Load();
     EXPECT_EQ(form1.Combo1.items(), (std::vector<std::string>{"B737-300", "Beech 1900D"}));
@@ -84,9 +84,9 @@ TEST_F(StartUp, ListsOnlyEntriesWhoseFolderHoldsAircraftCfgInAnyCase)
 
 TEST_F(StartUp, LineTwoZeroLeavesTheListEmpty)
 {
-    makeSimulator();
-    makeAircraft("b737_300");
-    dir.write("quillet.ini", sim() + "\r\n0\r\nB737-300,b737_300\r\n");
+    dir.makeSimulator("FS2000.EXE");
+    dir.makeAircraft("b737_300");
+    dir.write("quillet.ini", dir.sim() + "\r\n0\r\nB737-300,b737_300\r\n");
     form1.Form_Load();
     EXPECT_TRUE(form1.Combo1.items().empty());
     EXPECT_EQ(form1.Combo1.tooltip, "");
@@ -116,9 +116,9 @@ TEST_F(StartUp, SettingsFileThatIsNotOneIsRefusedWithAMessage)
 
 TEST_F(StartUp, AShortSettingsFileIsUsedAsFarAsItGoesAndToldOnce)
 {
-    makeSimulator();
-    makeAircraft("b737_300");
-    dir.write("quillet.ini", sim() + "\r\n2\r\nB737-300,b737_300\r\n");
+    dir.makeSimulator("FS2000.EXE");
+    dir.makeAircraft("b737_300");
+    dir.write("quillet.ini", dir.sim() + "\r\n2\r\nB737-300,b737_300\r\n");
     form1.Form_Load();
     form1.mnuconfigair_Click(); // reads the file again
     EXPECT_EQ(form1.Combo1.items(), (std::vector<std::string>{"B737-300"}));
@@ -127,8 +127,8 @@ TEST_F(StartUp, AShortSettingsFileIsUsedAsFarAsItGoesAndToldOnce)
 
 TEST_F(StartUp, AllFoldersInvalidListsEverythingAsAvailable)
 {
-    makeSimulator();
-    writeIni(sim(), {"B737-300,b737_300", "Beech 1900D,beech"});
+    dir.makeSimulator("FS2000.EXE");
+    dir.writeIni(dir.sim(), {"B737-300,b737_300", "Beech 1900D,beech"});
     form1.Form_Load();
     EXPECT_TRUE(form1.Combo1.items().empty());
     EXPECT_EQ(form1.form4().Combo2.items(), (std::vector<std::string>{"B737-300", "Beech 1900D"}));

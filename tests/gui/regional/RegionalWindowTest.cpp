@@ -14,10 +14,10 @@ class RegionalWindowGui : public GuiFixture {
 protected:
     void SetUp() override
     {
-        makeSimulator();
-        makeAircraft("beech", "[fltsim.0]\r\ntitle=Beech\r\n\r\n[WEIGHT_AND_BALANCE]\r\nempty_weight = 10615\r\n"
+        dir.makeSimulator();
+        dir.makeAircraft("beech", "aircraft.cfg", "[fltsim.0]\r\ntitle=Beech\r\n\r\n[WEIGHT_AND_BALANCE]\r\nempty_weight = 10615\r\n"
                               "\r\n[flight_tuning]\r\ncruise_lift_scalar = 1.0\r\n");
-        writeIni(sim(), {"Beech 1900D,beech"});
+        dir.writeIni(dir.sim(), {"Beech 1900D,beech"});
         dir.write("beech.gif", TempDir::readFile(std::filesystem::path(QUILLET_PICTURES) / "beech.gif"));
     }
 
@@ -88,8 +88,8 @@ TEST_F(RegionalWindowGui, PhotographAndCabinAreShownAndAMissingPhotoLeavesABlank
 
     std::filesystem::remove(dir.path() / "beech.gif");
     dir.write("emb120.gif", "not a picture");
-    makeAircraft("emb");
-    writeIni(sim(), {"Empraer EMB_120,emb", "Beech 1900D,beech"});
+    dir.makeAircraft("emb");
+    dir.writeIni(dir.sim(), {"Empraer EMB_120,emb", "Beech 1900D,beech"});
     told.clear();
     app->handle([this] { app->form1().mnuconfigair_Click(); });
     QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);

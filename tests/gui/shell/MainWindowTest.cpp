@@ -13,10 +13,10 @@ using MainWindowGui = GuiFixture;
 
 TEST_F(MainWindowGui, ListsTheEntriesWhoseAircraftCfgExistsAndShowsTheSummary)
 {
-    makeSimulator();
-    makeAircraft("b737_300");
-    makeAircraft("dc10");
-    writeIni(sim(), {"B737-300,b737_300", "Beech 1900D,nothing_here", "DC-10-30F,dc10"});
+    dir.makeSimulator();
+    dir.makeAircraft("b737_300");
+    dir.makeAircraft("dc10");
+    dir.writeIni(dir.sim(), {"B737-300,b737_300", "Beech 1900D,nothing_here", "DC-10-30F,dc10"});
     start();
 
     auto* combo = find<QComboBox>(main(), "Combo1");
@@ -40,7 +40,7 @@ TEST_F(MainWindowGui, ListsTheEntriesWhoseAircraftCfgExistsAndShowsTheSummary)
 
 TEST_F(MainWindowGui, WidgetsStandAtTheirDesignedPlaces)
 {
-    writeIni(sim(), {});
+    dir.writeIni(dir.sim(), {});
     start();
     EXPECT_EQ(main()->centralWidget()->size(), QSize(564, 234));
     EXPECT_EQ(find<QWidget>(main(), "Combo1")->geometry(), QRect(32, 112, 153, 21));
@@ -51,19 +51,19 @@ TEST_F(MainWindowGui, WidgetsStandAtTheirDesignedPlaces)
 
 TEST_F(MainWindowGui, WithoutASimulatorTheConfigurationDialogOpens)
 {
-    writeIni(sim(), {"B737-300,b737_300"});
+    dir.writeIni(dir.sim(), {"B737-300,b737_300"});
     start();
     ConfigDialog* dialog = app->configDialog();
     ASSERT_TRUE(dialog->isVisible());
     EXPECT_EQ(dialog->windowTitle(), "Quillet - Configure");
     EXPECT_FALSE(find<QCheckBox>(dialog, "Check2")->isChecked());
-    EXPECT_EQ(find<QLineEdit>(dialog, "simdir")->text(), QString::fromStdString(sim()));
+    EXPECT_EQ(find<QLineEdit>(dialog, "simdir")->text(), QString::fromStdString(dir.sim()));
     EXPECT_EQ(find<QComboBox>(dialog, "Combo2")->itemText(0), "B737-300");
     EXPECT_FALSE(find<QPushButton>(dialog, "Command1")->isVisible());
 
     // Typing the right folder confirms it and stores the settings.
-    makeSimulator();
-    makeAircraft("b737_300");
+    dir.makeSimulator();
+    dir.makeAircraft("b737_300");
     auto* simdir = find<QLineEdit>(dialog, "simdir");
     simdir->setFocus();
     QTest::keyClick(simdir, Qt::Key_Space);
@@ -78,7 +78,7 @@ TEST_F(MainWindowGui, WithoutASimulatorTheConfigurationDialogOpens)
 
 TEST_F(MainWindowGui, ConverterAnswersWhatIsTyped)
 {
-    writeIni(sim(), {});
+    dir.writeIni(dir.sim(), {});
     start();
     auto* kg = find<QLineEdit>(main(), "Textkg");
     auto* lb = find<QLineEdit>(main(), "TextLB");
@@ -99,7 +99,7 @@ TEST_F(MainWindowGui, ConverterAnswersWhatIsTyped)
 
 TEST_F(MainWindowGui, AboutMenusShowFixedText)
 {
-    writeIni(sim(), {});
+    dir.writeIni(dir.sim(), {});
     start();
     app->handle([this] { app->form1().munver_Click(); });
     auto* about = main()->findChild<QWidget*>("About");
