@@ -68,6 +68,9 @@ void Form1::refresh()
             form->Form_Load();
             form->mnuload_Click();
             form->runSummary();
+        } else {
+            m_session.messages.reportOnce("The \"" + Combo1.text() +
+                                          "\" cannot be loaded yet: this version of Quillet has no load form for it.");
         }
     }
     const LoadState& state = m_session.state;

@@ -122,6 +122,18 @@ TEST_F(MainWindow, AdjustOpensTheFormAndClosingItBringsTheMainWindowBack)
     EXPECT_EQ(form1.lblpax.text, "PAX weight =  340 lb.") << "the main window shows the saved load again";
 }
 
+TEST_F(MainWindow, ATypeWithoutItsFormIsToldOnce)
+{
+    dir.makeAircraft("crj");
+    dir.writeIni(dir.sim(), {"CRJ-200ER,crj", "Beech 1900D,beech"});
+    form1.Form_Load();
+    form1.Combo1.setListIndex(1);
+    form1.Combo1.setListIndex(0);
+    EXPECT_EQ(told("cannot be loaded yet").size(), 1u);
+    form1.Command2_Click();
+    EXPECT_TRUE(form1.visible);
+}
+
 TEST_F(MainWindow, EmptyListAdjustDoesNothing)
 {
     dir.writeIni(dir.sim(), {});
