@@ -1,0 +1,76 @@
+#include "platform/QtCanvas.h"
+
+#include <gtest/gtest.h>
+
+namespace quillet {
+namespace {
+
+QRgb at(const QtCanvas& canvas, int x, int y)
+{
+    return canvas.image().pixel(x, y) & 0xFFFFFF;
+}
+
+constexpr QRgb kWhitePixel = 0xFFFFFF;
+constexpr QRgb kBlackPixel = 0x000000;
+constexpr QRgb kGreenPixel = 0x00FF00;
+constexpr QRgb kRedPixel = 0xFF0000;
+
+TEST(QtCanvas, DrawsInTwipsFifteenToThePixel)
+{
+    QtCanvas canvas(1500, 750); // 100 x 50 pixels
+    EXPECT_EQ(canvas.image().size(), QSize(100, 50));
+    canvas.line(150, 300, 1350, 300, kBlack);
+    EXPECT_EQ(at(canvas, 10, 20), kBlackPixel);
+    EXPECT_EQ(at(canvas, 50, 20), kBlackPixel);
+    EXPECT_EQ(at(canvas, 50, 21), kWhitePixel);
+    canvas.clear();
+    EXPECT_EQ(at(canvas, 50, 20), kWhitePixel);
+}
+
+TEST(QtCanvas, FloodFillStopsAtTheForeColour)
+{
+    QtCanvas canvas(1500, 1500);
+    canvas.setFillStyle(FillStyle::Transparent);
+    canvas.box(150, 150, 750, 750, kBlack); // pixels 10..50
+    canvas.setForeColor(kBlack);
+    canvas.setFillStyle(FillStyle::Solid);
+    canvas.setFillColor(kGreen);
+    canvas.floodFill(30, 30);
+    EXPECT_EQ(at(canvas, 30, 30), kGreenPixel);
+    EXPECT_EQ(at(canvas, 11, 49), kGreenPixel);
+    EXPECT_EQ(at(canvas, 10, 10), kBlackPixel) << "the border keeps its colour";
+    EXPECT_EQ(at(canvas, 60, 60), kWhitePixel) << "nothing leaks outside";
+}
+
+TEST(QtCanvas, HatchedFloodFillLeavesTheGapsAlone)
+{
+    QtCanvas canvas(1500, 1500);
+    canvas.setFillStyle(FillStyle::Transparent);
+    canvas.box(150, 150, 750, 750, kBlack);
+    canvas.setFillStyle(FillStyle::DiagonalCross);
+    canvas.setFillColor(kRed);
+    canvas.floodFill(30, 30);
+    EXPECT_EQ(at(canvas, 32, 32), kRedPixel); // on the hatch: (x - y) % 8 == 0
+    EXPECT_EQ(at(canvas, 33, 32), kWhitePixel);
+}
+
+TEST(QtCanvas, FilledShapesAndText)
+{
+    QtCanvas canvas(1500, 1500);
+    canvas.setFillStyle(FillStyle::Solid);
+    canvas.setFillColor(kBlue);
+    canvas.circle(750, 750, 300, kBlue);
+    EXPECT_EQ(at(canvas, 50, 50), 0x0000FFu);
+    EXPECT_EQ(at(canvas, 50, 75), kWhitePixel);
+
+    canvas.setFont(10, true);
+    const double width = canvas.textWidth("Main Deck");
+    EXPECT_GT(width, 600);
+    EXPECT_LT(width, 1200);
+    EXPECT_GT(canvas.textHeight("T"), 150);
+    canvas.setScaleMode(ScaleMode::Pixels);
+    EXPECT_NEAR(canvas.textWidth("Main Deck"), width / 15, 1e-9);
+}
+
+} // namespace
+} // namespace quillet
