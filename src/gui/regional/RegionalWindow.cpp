@@ -173,9 +173,9 @@ QLabel* RegionalWindow::label(const char* name, const TwipsRect& rect)
 void RegionalWindow::buildMenus()
 {
     const RegionalMenus& menus = m_regional.type().menus;
-    const auto item = [this](QMenu* menu, const MenuItem& spec, void (RegionalForm::*handler)()) {
-        QAction* action = menu->addAction(latin(spec.caption));
-        action->setObjectName(latin(spec.name));
+    const auto item = [this](QMenu* menu, const MenuItem& entry, void (RegionalForm::*handler)()) {
+        QAction* action = menu->addAction(latin(entry.caption));
+        action->setObjectName(latin(entry.name));
         connect(action, &QAction::triggered, this,
                 [this, handler] { m_app.handle([this, handler] { (m_regional.*handler)(); }); });
     };
