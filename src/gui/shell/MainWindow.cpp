@@ -7,6 +7,7 @@
 #include "shell/Form1.h"
 
 #include <QCloseEvent>
+#include <QFocusEvent>
 #include <QComboBox>
 #include <QFrame>
 #include <QGroupBox>
@@ -134,7 +135,11 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
         else if (watched == m_labellb)
             m_app.handle([&converter] { converter.Labellb_Click(); });
     } else if (event->type() == QEvent::FocusOut && watched == m_combo1) {
-        m_app.handle([this] { m_form.Combo1_Validate(); });
+        // Validation runs when the user moves on to another control of this window, not when another
+        // window (a message box, say) takes the focus.
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+            m_app.handle([this] { m_form.Combo1_Validate(); });
     }
     return QMainWindow::eventFilter(watched, event);
 }
