@@ -17,11 +17,6 @@ std::string lowerAscii(std::string_view text)
     return out;
 }
 
-bool equalsIgnoreCase(std::string_view a, std::string_view b)
-{
-    return a.size() == b.size() && lowerAscii(a) == lowerAscii(b);
-}
-
 namespace {
 
 struct SplitPath {

@@ -26,6 +26,5 @@ std::string displayPath(const std::filesystem::path& path);
 
 // ASCII letters folded to lower case; other bytes unchanged.
 std::string lowerAscii(std::string_view text);
-bool equalsIgnoreCase(std::string_view a, std::string_view b);
 
 } // namespace quillet
