@@ -3,21 +3,12 @@
 
 #include "RegionalForm.h"
 
+#include "load/PresetDraws.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace quillet {
-
-namespace {
-
-// A broken generator must not hang the window: after this many fruitless draws the seat is taken
-// in station order instead.
-constexpr int kSeatDrawAttempts = 10000;
-
-constexpr float kLightestPassenger = 54;
-constexpr float kPassengerSpread = 188;
-
-} // namespace
 
 int RegionalForm::drawCount(const CountDraw& draw)
 {
@@ -26,9 +17,7 @@ int RegionalForm::drawCount(const CountDraw& draw)
 
 float RegionalForm::drawPassengerWeight()
 {
-    const float weight = static_cast<float>(kLightestPassenger + kPassengerSpread * m_session.random.next());
-    // A draw just below 1 must not round up onto the upper bound.
-    return std::min(weight, std::nextafter(kLightestPassenger + kPassengerSpread, 0.0f));
+    return quillet::drawPassengerWeight(m_session.random);
 }
 
 int RegionalForm::drawSeat(const SeatDraw& seats, bool wantLoaded)
@@ -39,16 +28,7 @@ int RegionalForm::drawSeat(const SeatDraw& seats, bool wantLoaded)
     const auto fits = [&](int seat) {
         return seat >= first && seat <= last && (state.stationweight[seat] > 0) == wantLoaded;
     };
-    for (int attempt = 0; attempt < kSeatDrawAttempts; ++attempt) {
-        const int seat = static_cast<int>(seats.count * m_session.random.next() + seats.first);
-        if (fits(seat))
-            return seat;
-    }
-    for (int seat = first; seat <= last; ++seat) {
-        if (fits(seat))
-            return seat;
-    }
-    return -1;
+    return quillet::drawSeat(m_session.random, seats.first, seats.count, fits);
 }
 
 int RegionalForm::startPreset(const CountDraw& passengers)
