@@ -56,7 +56,9 @@ void Form1::Combo1_Validate()
 LoadForm* Form1::selectedForm()
 {
     const AircraftType* type = findAircraftType(Combo1.text());
-    return type ? m_forms.form(type->form, m_session) : nullptr;
+    if (!type || !m_forms.serves(type->form, type->type))
+        return nullptr;
+    return m_forms.form(type->form, m_session);
 }
 
 void Form1::refresh()
@@ -64,7 +66,7 @@ void Form1::refresh()
     PicDHC.visible = true;
     if (const AircraftType* type = findAircraftType(Combo1.text())) {
         PicDHC.file = m_session.picture(type->picture);
-        if (LoadForm* form = m_forms.form(type->form, m_session)) {
+        if (LoadForm* form = selectedForm()) {
             form->Form_Load();
             form->mnuload_Click();
             form->runSummary();
