@@ -34,12 +34,6 @@ struct Marker {
 inline constexpr std::string_view kEmptyTooltip = "Empty";
 inline constexpr std::string_view kPaxDetailsTitle = "Pax Details";
 inline constexpr std::string_view kDefaultWeight = "170";
-inline constexpr std::string_view kLabel1Text = "Demonstrated configuration"; // Arial 9.75 pt bold
-inline constexpr std::string_view kLabel1Font = "Arial";
-inline constexpr double kLabel1Points = 9.75;
-inline constexpr std::string_view kLabel2Text = "Longitudinal Balance"; // centred
-inline constexpr std::string_view kLabel3Text = "Lateral Balance";      // centred
-// lblbow, lblpax, lblmf and lbltot are right-aligned; the other labels are left-aligned.
 
 // The seat-by-seat load form of a regional type (Beech 1900D, EMB-120, DHC-8-300): one design, the
 // differences all in the type's data. The window places its controls where type().layout says and

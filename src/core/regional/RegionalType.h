@@ -1,31 +1,12 @@
 #pragma once
 
+#include "shell/FormLayout.h"
+
 #include <array>
 #include <string_view>
 #include <vector>
 
 namespace quillet {
-
-// A rectangle in twips inside a form or picture box, y downwards.
-struct TwipsRect {
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
-
-    int right() const { return left + width; }
-    int bottom() const { return top + height; }
-    double centreX() const { return left + width / 2.0; }
-    double centreY() const { return top + height / 2.0; }
-};
-
-// A straight line on a form, in twips.
-struct TwipsLine {
-    int x1 = 0;
-    int y1 = 0;
-    int x2 = 0;
-    int y2 = 0;
-};
 
 // The marker that shows a station is loaded: a filled green circle on a seat, a green cross-hatched
 // rounded box on a hold or bay.
@@ -106,11 +87,12 @@ struct RegionalLayout {
     TwipsRect lblmaxtow;
     TwipsRect lblmaxfuel;
     TwipsLine Line1;
-};
 
-struct MenuItem {
-    std::string_view name;
-    std::string_view caption;
+    SummaryLayout summary() const
+    {
+        return {Picture4, Label2, Picture3, Label3, Label1, lblbow, lblpax, lblmf, lbltot,
+                warning,  lblpass, lblmaxtow, lblmaxfuel, Line1};
+    }
 };
 
 // "File" holds reload and save, "Auto Load" the three presets.

@@ -7,6 +7,7 @@
 #include "regional/RegionalForm.h"
 #include "regional/RegionalType.h"
 #include "shell/Application.h"
+#include "shell/SummaryPanel.h"
 
 #include <QFocusEvent>
 #include <QFrame>
@@ -18,16 +19,6 @@
 namespace quillet {
 
 namespace {
-
-QString latin(std::string_view text)
-{
-    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-void place(QWidget* widget, const TwipsRect& rect)
-{
-    quillet::place(widget, rect.left, rect.top, rect.width, rect.height);
-}
 
 // A hot spot: a transparent label without caption; a press on it edits its station.
 class HotSpotLabel : public QLabel {
@@ -116,68 +107,16 @@ RegionalWindow::RegionalWindow(RegionalForm& form, Application& app)
     m_photo->setObjectName(latin(layout.photoName));
     place(m_photo, layout.photo);
 
-    auto* picture4 = new PictureBox(m_client);
-    picture4->setObjectName(QStringLiteral("Picture4"));
-    place(picture4, layout.Picture4);
-    picture4->setCanvas(dynamic_cast<QtCanvas*>(&form.Picture4()));
-    auto* picture3 = new PictureBox(m_client);
-    picture3->setObjectName(QStringLiteral("Picture3"));
-    place(picture3, layout.Picture3);
-    picture3->setCanvas(dynamic_cast<QtCanvas*>(&form.Picture3()));
-
-    QLabel* caption4 = label("Label2", layout.Label2);
-    caption4->setText(latin(kLabel2Text));
-    caption4->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    QLabel* caption3 = label("Label3", layout.Label3);
-    caption3->setText(latin(kLabel3Text));
-    caption3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    QLabel* heading = label("Label1", layout.Label1);
-    heading->setText(latin(kLabel1Text));
-    QFont headingFont(latin(kLabel1Font));
-    headingFont.setPointSizeF(kLabel1Points);
-    headingFont.setBold(true);
-    heading->setFont(headingFont);
-
-    m_lblbow = label("lblbow", layout.lblbow);
-    m_lblpax = label("lblpax", layout.lblpax);
-    m_lblmf = label("lblmf", layout.lblmf);
-    m_lbltot = label("lbltot", layout.lbltot);
-    for (QLabel* right : {m_lblbow, m_lblpax, m_lblmf, m_lbltot})
-        right->setAlignment(Qt::AlignRight | Qt::AlignTop);
-    m_warning = label("warning", layout.warning);
-    m_warning->setWordWrap(true);
-    m_lblpass = label("lblpass", layout.lblpass);
-    m_lblmaxtow = label("lblmaxtow", layout.lblmaxtow);
-    m_lblmaxfuel = label("lblmaxfuel", layout.lblmaxfuel);
-
-    // Line1 runs across the form under the load line.
-    const TwipsLine& line = layout.Line1;
-    auto* rule = new QFrame(m_client);
-    rule->setObjectName(QStringLiteral("Line1"));
-    const int left = twipsToPixels(std::min(line.x1, line.x2));
-    rule->setGeometry(left, twipsToPixels(line.y1), twipsToPixels(std::max(line.x1, line.x2)) - left + 1, 1);
-    rule->setStyleSheet(QStringLiteral("background-color: black;"));
+    m_summary = std::make_unique<SummaryPanel>(m_client, layout.summary(), form);
 
     sync();
-}
-
-QLabel* RegionalWindow::label(const char* name, const TwipsRect& rect)
-{
-    auto* widget = new QLabel(m_client);
-    widget->setObjectName(QString::fromLatin1(name));
-    widget->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    place(widget, rect);
-    return widget;
 }
 
 void RegionalWindow::buildMenus()
 {
     const RegionalMenus& menus = m_regional.type().menus;
     const auto item = [this](QMenu* menu, const MenuItem& entry, void (RegionalForm::*handler)()) {
-        QAction* action = menu->addAction(latin(entry.caption));
-        action->setObjectName(latin(entry.name));
-        connect(action, &QAction::triggered, this,
-                [this, handler] { m_app.handle([this, handler] { (m_regional.*handler)(); }); });
+        addMenuItem(menu, entry, [this, handler] { m_app.handle([this, handler] { (m_regional.*handler)(); }); });
     };
     QMenu* file = menuBar()->addMenu(latin(menus.mnufile.caption));
     file->setObjectName(latin(menus.mnufile.name));
@@ -197,21 +136,9 @@ void RegionalWindow::sync()
     for (std::size_t i = 0; i < m_markers.size() && i < m_regional.Shape1.size(); ++i)
         m_markers[i]->setVisible(m_regional.Shape1[i].visible);
 
-    const QString photo = QString::fromStdString(m_regional.photo.string());
-    if (photo != m_shownPhoto) {
-        m_shownPhoto = photo;
-        m_photo->setPicture(loadPicture(m_regional.photo, m_app.session().messages));
-    }
+    showPhoto(m_photo, m_regional.photo);
 
-    const SummaryLabels& labels = m_regional.labels;
-    showState(m_lblbow, labels.lblbow);
-    showState(m_lblpax, labels.lblpax);
-    showState(m_lblmf, labels.lblmf);
-    showState(m_lbltot, labels.lbltot);
-    showState(m_warning, labels.warning);
-    showState(m_lblpass, labels.lblpass);
-    showState(m_lblmaxtow, labels.lblmaxtow);
-    showState(m_lblmaxfuel, labels.lblmaxfuel);
+    m_summary->sync(m_regional.labels);
 }
 
 void RegionalWindow::focusOutEvent(QFocusEvent* event)

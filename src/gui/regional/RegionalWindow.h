@@ -1,8 +1,11 @@
 #pragma once
 
 #include "shell/LoadFormWindow.h"
+#include "shell/SummaryPanel.h"
 
 #include <QString>
+
+#include <memory>
 #include <vector>
 
 class QLabel;
@@ -28,22 +31,13 @@ protected:
 
 private:
     void buildMenus();
-    QLabel* label(const char* name, const struct TwipsRect& rect);
 
     RegionalForm& m_regional;
     QWidget* m_client = nullptr;
     PictureBox* m_photo = nullptr;
-    QString m_shownPhoto;
     std::vector<QLabel*> m_hotSpots;
     std::vector<MarkerWidget*> m_markers;
-    QLabel* m_lblbow = nullptr;
-    QLabel* m_lblpax = nullptr;
-    QLabel* m_lblmf = nullptr;
-    QLabel* m_lbltot = nullptr;
-    QLabel* m_warning = nullptr;
-    QLabel* m_lblpass = nullptr;
-    QLabel* m_lblmaxtow = nullptr;
-    QLabel* m_lblmaxfuel = nullptr;
+    std::unique_ptr<SummaryPanel> m_summary;
 };
 
 // Adds the windows of the forms "Beech", "Emb120" and "DHC8".

@@ -1,6 +1,8 @@
 #include "LoadFormWindow.h"
 
 #include "Application.h"
+#include "platform/PictureBox.h"
+#include "platform/Widgets.h"
 #include "shell/LoadForm.h"
 
 #include <QCloseEvent>
@@ -15,6 +17,15 @@ void LoadFormWindow::closeEvent(QCloseEvent* event)
     if (m_form.visible)
         m_app.handle([this] { m_form.Form_Unload(); });
     event->accept();
+}
+
+void LoadFormWindow::showPhoto(PictureBox* box, const std::filesystem::path& file)
+{
+    const QString shown = QString::fromStdString(file.string());
+    if (shown == m_shownPhoto)
+        return;
+    m_shownPhoto = shown;
+    box->setPicture(loadPicture(file, m_app.session().messages));
 }
 
 } // namespace quillet

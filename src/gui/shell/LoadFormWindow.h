@@ -1,11 +1,15 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QString>
+
+#include <filesystem>
 
 namespace quillet {
 
 class Application;
 class LoadForm;
+class PictureBox;
 
 // The window of a load form: it places the widgets, forwards their events to the form and shows the
 // form's state after each one.
@@ -20,9 +24,14 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    // Shows the aircraft's photograph in its picture box, loading the file only when it changed.
+    void showPhoto(PictureBox* box, const std::filesystem::path& file);
 
     LoadForm& m_form;
     Application& m_app;
+
+private:
+    QString m_shownPhoto;
 };
 
 } // namespace quillet
