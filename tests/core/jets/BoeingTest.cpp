@@ -1,0 +1,583 @@
+#include "JetRig.h"
+
+#include "jets/JetForms.h"
+#include "jets/data737.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace quillet {
+namespace {
+
+constexpr int kFirstClass1A = 0;
+constexpr int kSeat3A = 8;
+constexpr int kSeat3B = 9;
+constexpr int kSeat3C = 10;
+constexpr int kPilot = 128;
+constexpr int kForwardHold = 134;
+constexpr int kAftHold = 135;
+
+// Presses a station's drawn point with a button.
+void press(JetRig& rig, int station, int button = Boeing::kLeftButton)
+{
+    const LoadState& state = rig.session.state;
+    rig.form->Picture1_MouseDown(button, 0, state.stationpx[station], state.stationpy[station]);
+}
+
+std::vector<DrawOp> circlesAt(const RecordingCanvas& canvas, double x, double y)
+{
+    std::vector<DrawOp> found;
+    for (const DrawOp& op : canvas.ops(DrawOp::Kind::Circle)) {
+        if (op.x1 == x && op.y1 == y)
+            found.push_back(op);
+    }
+    return found;
+}
+
+// The first draw is a preset's share; the rest spread evenly so seat draws rarely repeat.
+class FirstThenSpread final : public RandomSource {
+public:
+    explicit FirstThenSpread(double first) : m_first(first) {}
+    double next() override
+    {
+        if (m_draws++ == 0)
+            return m_first;
+        return std::fmod(m_draws * 0.6180339887498949, 1.0);
+    }
+
+private:
+    double m_first;
+    int m_draws = 0;
+};
+
+int occupiedSeats(const LoadState& state)
+{
+    int count = 0;
+    for (int i = 0; i < 128; ++i)
+        count += state.stationweight[i] > 0 ? 1 : 0;
+    return count;
+}
+
+TEST(JetB737_300, SetUpWritesTheTypeTable)
+{
+    LoadState state;
+    int deckscale = 0;
+    data737::setUpB737_300(state, deckscale);
+
+    EXPECT_EQ(deckscale, 70);
+    EXPECT_FLOAT_EQ(state.maxtakeoff, 136378.0f);
+    EXPECT_FLOAT_EQ(state.maxlanding, 113759.8f);
+    EXPECT_FLOAT_EQ(state.emptyweight, 69953.4f);
+    EXPECT_FLOAT_EQ(state.maxfuel, 35508.0f);
+    EXPECT_FLOAT_EQ(state.maxzerofuel, 102953.4f);
+    EXPECT_EQ(state.maxpax, 128);
+    EXPECT_EQ(state.cfgstations, 3);
+    EXPECT_EQ(state.seats1, 0);
+    EXPECT_EQ(state.seats2, 8);
+    EXPECT_EQ(state.seats3, 120);
+    EXPECT_EQ(state.nstations, 134);
+    EXPECT_EQ(state.ncargo, 2);
+    EXPECT_EQ(state.nlower, 2);
+    EXPECT_EQ(state.ncrew, 6);
+
+    EXPECT_EQ(state.stationname[0], "Passenger 1A");
+    EXPECT_FLOAT_EQ(state.stationx[0], 24.5f);
+    EXPECT_FLOAT_EQ(state.stationy[0], -4.2f);
+    EXPECT_EQ(state.stationname[7], "Passenger 2F");
+    EXPECT_FLOAT_EQ(state.stationx[7], 21.5f);
+    EXPECT_FLOAT_EQ(state.stationy[7], 4.2f);
+    EXPECT_EQ(state.stationname[kSeat3C], "Passenger 3C");
+    EXPECT_FLOAT_EQ(state.stationx[kSeat3C], 18.083f);
+    EXPECT_FLOAT_EQ(state.stationy[kSeat3C], -1.5f);
+    EXPECT_EQ(state.stationname[50], "Passenger 10A");
+    EXPECT_NEAR(state.stationx[50], -0.000333, 1e-6);
+    EXPECT_EQ(state.stationname[127], "Passenger 22F");
+    EXPECT_NEAR(state.stationx[127], -31.0003, 1e-4);
+    EXPECT_FLOAT_EQ(state.stationy[127], 4.5f);
+
+    const struct {
+        int index;
+        const char* name;
+        float x;
+        float y;
+    } persons[] = {{128, "Pilot", 39.0f, -2.0f}, {129, "Co-Pilot", 39.0f, 2.0f}, {130, "Crew", 31.5f, 2.5f},
+                   {131, "Crew", 31.5f, -2.5f},  {132, "Crew", -36.5f, 2.3f},    {133, "Crew", -36.5f, -2.5f}};
+    for (const auto& person : persons) {
+        EXPECT_EQ(state.stationname[person.index], person.name) << person.index;
+        EXPECT_FLOAT_EQ(state.stationx[person.index], person.x) << person.index;
+        EXPECT_FLOAT_EQ(state.stationy[person.index], person.y) << person.index;
+    }
+    EXPECT_EQ(state.stationname[kForwardHold], "Lower Deck Cargo Forward");
+    EXPECT_FLOAT_EQ(state.stationx[kForwardHold], 17.5f);
+    EXPECT_FLOAT_EQ(state.stationmax[kForwardHold], 2002.0f);
+    EXPECT_EQ(state.stationname[kAftHold], "Lower Deck Cargo Aft");
+    EXPECT_FLOAT_EQ(state.stationx[kAftHold], -23.25f);
+    EXPECT_FLOAT_EQ(state.stationmax[kAftHold], 5168.0f);
+}
+
+TEST(JetB737_300, SetUpTwiceGivesTheSameTableAndLeavesWeightsAlone)
+{
+    LoadState first;
+    first.stationweight.fill(12.5f);
+    first.stationmsg[kAftHold] = " Zone Overload";
+    int scale = 0;
+    data737::setUpB737_300(first, scale);
+    LoadState second = first;
+    data737::setUpB737_300(second, scale);
+
+    EXPECT_EQ(first.stationname, second.stationname);
+    EXPECT_EQ(first.stationx, second.stationx);
+    EXPECT_EQ(first.stationy, second.stationy);
+    EXPECT_EQ(first.stationmax, second.stationmax);
+    for (float weight : second.stationweight)
+        ASSERT_EQ(weight, 12.5f);
+    EXPECT_EQ(first.stationmsg[kAftHold], "");
+}
+
+TEST(JetForm, OpeningClearsEveryWeightAndNameAndShowsTheType)
+{
+    JetRig rig;
+    LoadState& state = rig.session.state;
+    state.stationname[400] = "Container 12";
+    state.stationweight[400] = 900;
+    Boeing& form = rig.open("B737-300");
+
+    EXPECT_EQ(state.stationname[400], "");
+    EXPECT_EQ(state.stationweight[400], 0);
+    EXPECT_EQ(form.caption, "B737-300");
+    EXPECT_EQ(form.photo.filename(), "B737-300.gif");
+    EXPECT_EQ(form.labels.lblpass.text, "Passengers  0 / 128");
+    // The reader wrote the type's station file on its first run.
+    EXPECT_FALSE(rig.dir.read("B737-300.cfg").empty());
+}
+
+TEST(JetForm, AMissingPictureIsToldAndTheFormStillOpens)
+{
+    JetRig rig;
+    std::filesystem::remove(rig.dir.path() / "B737-300.gif");
+    Boeing& form = rig.open("B737-300");
+
+    EXPECT_TRUE(form.photo.empty());
+    EXPECT_EQ(rig.session.state.nstations, 134);
+    const auto& told = rig.session.messages.pending();
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_NE(told[0].find("B737-300.gif"), std::string::npos);
+}
+
+TEST(JetForm, AnUnknownTypeSetsNothingUp)
+{
+    JetRig rig;
+    Boeing& form = rig.open("B737-300");
+    rig.currentType = "B737-400";
+    form.Form_Load();
+    EXPECT_EQ(rig.session.state.nstations, 134);
+    EXPECT_EQ(rig.session.state.stationname[0], "");
+}
+
+TEST(JetDrawing, LoadedSeatGetsAGreenDiscAndANegativeOneNothing)
+{
+    JetRig rig;
+    Boeing& form = rig.open("B737-300");
+    LoadState& state = rig.session.state;
+    state.stationweight[kFirstClass1A] = 170;
+    state.stationweight[kSeat3C] = -20;
+    form.redraw();
+
+    EXPECT_EQ(state.stationpx[kFirstClass1A], 3045);
+    EXPECT_EQ(state.stationpy[kFirstClass1A], 854);
+    const auto discs = circlesAt(rig.picture(), 3045, 854);
+    ASSERT_EQ(discs.size(), 1u);
+    EXPECT_EQ(discs[0].radius, 45);
+    EXPECT_EQ(discs[0].fillStyle, FillStyle::Solid);
+    EXPECT_EQ(discs[0].fillColor, kGreen);
+    EXPECT_EQ(discs[0].colour, kBlack);
+    EXPECT_TRUE(circlesAt(rig.picture(), state.stationpx[kSeat3C], state.stationpy[kSeat3C]).empty());
+    EXPECT_TRUE(rig.picture().ops(DrawOp::Kind::FloodFill).empty());
+}
+
+TEST(JetDrawing, DecksAreDrawnAroundTheirOrigins)
+{
+    JetRig rig;
+    rig.open("B737-300");
+    rig.picture().forget();
+    rig.form->redraw();
+    const auto texts = rig.picture().ops(DrawOp::Kind::Text);
+    ASSERT_GE(texts.size(), 4u);
+    // "Main Deck" at (60, 5) ft from the main-deck origin (68, 8), "Lower Deck" from (68, 21).
+    EXPECT_EQ(texts[0].text, "Main Deck");
+    EXPECT_EQ(texts[0].x1, 560);
+    EXPECT_EQ(texts[0].y1, 210);
+    EXPECT_TRUE(texts[0].bold);
+    EXPECT_EQ(texts[1].text, "Lower Deck");
+    EXPECT_EQ(texts[1].x1, 560);
+    EXPECT_EQ(texts[1].y1, 1120);
+    // "Forward" ends at x = 28 ft, "Aft" at -8 ft.
+    RecordingCanvas& canvas = rig.picture();
+    EXPECT_EQ(texts[2].text, "Forward");
+    EXPECT_DOUBLE_EQ(texts[2].x1 + canvas.textWidth("Forward"), 2800);
+    EXPECT_EQ(texts[3].text, "Aft");
+    EXPECT_DOUBLE_EQ(texts[3].x1 + canvas.textWidth("Aft"), 5320);
+
+    // The nose (48.035, 0) and the tail (-42.183, 0) of the outline.
+    const auto lines = canvas.ops(DrawOp::Kind::Line);
+    const auto touches = [&](double x, double y) {
+        return std::any_of(lines.begin(), lines.end(), [&](const DrawOp& op) {
+            return (std::fabs(op.x1 - x) < 0.01 && std::fabs(op.y1 - y) < 0.01) ||
+                   (std::fabs(op.x2 - x) < 0.01 && std::fabs(op.y2 - y) < 0.01);
+        });
+    };
+    EXPECT_TRUE(touches(1397.55, 560));
+    EXPECT_TRUE(touches(7712.81, 560));
+    // Economy seats are 1.5 ft boxes with their top-left corner 0.75 ft forward and outboard.
+    const auto boxes = canvas.ops(DrawOp::Kind::Box);
+    ASSERT_EQ(boxes.size(), 128u);
+    EXPECT_NEAR(boxes[kSeat3C].x1, (68 - 18.083 - 0.75) * 70, 0.01);
+    EXPECT_NEAR(boxes[kSeat3C].y1, (8 + 1.5 - 0.75) * 70, 0.01);
+    EXPECT_NEAR(boxes[kSeat3C].x2 - boxes[kSeat3C].x1, 105, 0.01);
+    EXPECT_NEAR(boxes[0].x2 - boxes[0].x1, 126, 0.01);
+}
+
+TEST(JetMouse, AClickEmptiesAnOccupiedSeatWithoutAQuestion)
+{
+    JetRig rig;
+    Boeing& form = rig.open("B737-300");
+    LoadState& state = rig.session.state;
+    rig.prompt.answer("180");
+    press(rig, kSeat3C);
+    ASSERT_EQ(rig.prompt.asked().size(), 1u);
+    EXPECT_EQ(rig.prompt.asked()[0].prompt, "Passenger 3C weight in lbs");
+    EXPECT_EQ(rig.prompt.asked()[0].title, "Pax Details");
+    EXPECT_EQ(rig.prompt.asked()[0].defaultText, "170");
+    EXPECT_EQ(state.stationweight[kSeat3C], 180);
+    EXPECT_EQ(state.loadweight, 180);
+    EXPECT_EQ(form.labels.lblpass.text, "Passengers  1 / 128");
+
+    press(rig, kSeat3C);
+    EXPECT_EQ(rig.prompt.asked().size(), 1u);
+    EXPECT_EQ(state.stationweight[kSeat3C], 0);
+    EXPECT_EQ(state.loadweight, 0);
+    EXPECT_EQ(form.labels.lblpass.text, "Passengers  0 / 128");
+}
+
+TEST(JetMouse, OverlappingSeatsAskOneAfterTheOtherInStationOrder)
+{
+    JetRig rig;
+    rig.open("B737-300");
+    LoadState& state = rig.session.state;
+    EXPECT_EQ(state.stationpy[kSeat3A], 875);
+    EXPECT_EQ(state.stationpy[kSeat3B], 770);
+    rig.prompt.answer("150");
+    rig.prompt.answer("90");
+    rig.form->Picture1_MouseDown(Boeing::kLeftButton, 0, state.stationpx[kSeat3A], 822);
+    ASSERT_EQ(rig.prompt.asked().size(), 2u);
+    EXPECT_EQ(rig.prompt.asked()[0].prompt, "Passenger 3A weight in lbs");
+    EXPECT_EQ(rig.prompt.asked()[1].prompt, "Passenger 3B weight in lbs");
+    EXPECT_EQ(state.stationweight[kSeat3A], 150);
+    EXPECT_EQ(state.stationweight[kSeat3B], 90);
+    EXPECT_EQ(state.loadweight, 240);
+
+    // 60 twips off is outside the window: the test is strict.
+    rig.form->Picture1_MouseDown(Boeing::kLeftButton, 0, state.stationpx[kSeat3A], 875 - 60);
+    EXPECT_EQ(state.stationweight[kSeat3A], 150);
+    EXPECT_EQ(state.stationweight[kSeat3B], 0);
+}
+
+TEST(JetMouse, OtherButtonsLeaveSeatsButLoadHolds)
+{
+    JetRig rig;
+    rig.open("B737-300");
+    LoadState& state = rig.session.state;
+    press(rig, kSeat3C, Boeing::kRightButton);
+    EXPECT_TRUE(rig.prompt.asked().empty());
+    EXPECT_EQ(state.stationweight[kSeat3C], 0);
+
+    rig.prompt.answer("1500 lb");
+    press(rig, kForwardHold, Boeing::kRightButton);
+    ASSERT_EQ(rig.prompt.asked().size(), 1u);
+    EXPECT_EQ(rig.prompt.asked()[0].prompt, "Lower Deck Cargo Forward weight in lbs");
+    EXPECT_EQ(rig.prompt.asked()[0].title, "Cargo details");
+    EXPECT_EQ(rig.prompt.asked()[0].defaultText, "1000");
+    EXPECT_EQ(state.stationweight[kForwardHold], 1500);
+}
+
+TEST(JetMouse, CancelledOrWordyAnswersLeaveStationsEmptyAndNegativeOnesAreKept)
+{
+    JetRig rig;
+    rig.open("B737-300");
+    LoadState& state = rig.session.state;
+    rig.prompt.cancel();
+    press(rig, kAftHold);
+    EXPECT_EQ(state.stationweight[kAftHold], 0);
+    rig.prompt.answer("heavy");
+    press(rig, kSeat3C);
+    EXPECT_EQ(state.stationweight[kSeat3C], 0);
+    rig.prompt.answer("1e300");
+    press(rig, kSeat3C);
+    EXPECT_EQ(state.stationweight[kSeat3C], 0);
+
+    rig.prompt.answer("-40");
+    press(rig, kSeat3C);
+    EXPECT_EQ(state.stationweight[kSeat3C], -40);
+    EXPECT_EQ(state.loadweight, -40);
+    press(rig, kSeat3C);
+    EXPECT_EQ(state.stationweight[kSeat3C], 0);
+    EXPECT_EQ(state.loadweight, 0);
+}
+
+TEST(JetMouse, HoverLabelNamesTheStationBesideIt)
+{
+    JetRig rig;
+    Boeing& form = rig.open("B737-300");
+    LoadState& state = rig.session.state;
+    state.stationweight[kFirstClass1A] = 170;
+    form.Picture1_MouseMove(0, 0, 3045 + 50, 854 - 50);
+
+    const auto texts = rig.picture().ops(DrawOp::Kind::Text);
+    ASSERT_FALSE(texts.empty());
+    const DrawOp& label = texts.back();
+    EXPECT_EQ(label.text, " Passenger 1A 170 lb.");
+    EXPECT_EQ(label.fontSize, 8);
+    EXPECT_EQ(label.x1, 3097.5);
+    const DrawOp& box = rig.picture().ops(DrawOp::Kind::Box).back();
+    EXPECT_EQ(box.x1, 3097.5);
+    EXPECT_EQ(box.fillStyle, FillStyle::Solid);
+    EXPECT_EQ(box.fillColor, kWhite);
+    EXPECT_EQ(box.colour, kBlack);
+    EXPECT_DOUBLE_EQ((box.y1 + box.y2) / 2, 854);
+
+    // 0.75 ft at 70 twips per foot is 52.5 twips; an empty seat shows nothing.
+    rig.picture().forget();
+    form.Picture1_MouseMove(0, 0, 3045 + 53, 854);
+    EXPECT_TRUE(rig.picture().ops(DrawOp::Kind::Box).size() == 128u);
+    rig.picture().forget();
+    form.Picture1_MouseMove(0, 0, state.stationpx[kSeat3C], state.stationpy[kSeat3C]);
+    EXPECT_EQ(rig.picture().ops(DrawOp::Kind::Box).size(), 128u);
+}
+
+TEST(JetCargo, AnAftHoldAboveItsMaximumIsHatchedRedAndSaysSo)
+{
+    JetRig rig;
+    Boeing& form = rig.open("B737-300");
+    LoadState& state = rig.session.state;
+    rig.prompt.answer("5168");
+    press(rig, kAftHold);
+    EXPECT_EQ(state.stationmsg[kAftHold], "");
+    auto fills = rig.picture().ops(DrawOp::Kind::FloodFill);
+    ASSERT_FALSE(fills.empty());
+    EXPECT_EQ(fills.back().fillColor, kGreen);
+    EXPECT_EQ(fills.back().fillStyle, FillStyle::DiagonalCross);
+    // The hold's point (6387.5 twips, halves to even 6388; 1470) in pixels, bounded by black.
+    EXPECT_EQ(fills.back().x1, 426);
+    EXPECT_EQ(fills.back().y1, 98);
+    EXPECT_EQ(fills.back().colour, kBlack);
+
+    press(rig, kAftHold);
+    rig.prompt.answer("5168.5");
+    press(rig, kAftHold);
+    EXPECT_EQ(state.stationmsg[kAftHold], " Zone Overload");
+    fills = rig.picture().ops(DrawOp::Kind::FloodFill);
+    EXPECT_EQ(fills.back().fillColor, kRed);
+
+    rig.picture().forget();
+    form.Picture1_MouseMove(0, 0, 6388 + 170, 1470 - 170);
+    const auto texts = rig.picture().ops(DrawOp::Kind::Text);
+    ASSERT_FALSE(texts.empty());
+    EXPECT_EQ(texts.back().text, " Lower Deck Cargo Aft 5169 lb. Zone Overload");
+    // That label would pass 9435 twips to the right of the hold, so it opens to its left.
+    const double width = rig.picture().textWidth(texts.back().text);
+    EXPECT_GT(6388 + 52.5 + width, Boeing::kLabelRightLimit);
+    EXPECT_DOUBLE_EQ(texts.back().x1, 6388 - 52.5 - width);
+}
+
+TEST(JetCargo, OnlyTheZonedTypeChecksItsLowerDeckZones)
+{
+    JetRig rig;
+    Boeing& form = rig.open("B737-300");
+    LoadState& state = rig.session.state;
+    // A B767-300ER's cargo: 16 forward containers and 15 aft stations after its 269 persons.
+    state.nstations = 269;
+    state.ncrew = 8;
+    state.ncargo = 31;
+    state.nlower = 31;
+    state.stationmax.fill(6000);
+    for (int i = 269; i < 285; ++i)
+        state.stationweight[i] = 45000.0f / 16;
+    for (int i = 285; i < 300; ++i)
+        state.stationweight[i] = 37800.0f / 15;
+
+    rig.currentType = "B767-300ER";
+    form.cargocheck();
+    for (int i = 269; i < 300; ++i)
+        EXPECT_EQ(state.stationmsg[i], "") << i;
+
+    state.stationweight[284] += 1;
+    form.cargocheck();
+    for (int i = 269; i < 285; ++i)
+        EXPECT_EQ(state.stationmsg[i], " Zone Overload") << i;
+    for (int i = 285; i < 300; ++i)
+        EXPECT_EQ(state.stationmsg[i], "") << i;
+
+    state.stationweight[284] -= 1;
+    state.stationweight[299] += 1;
+    form.cargocheck();
+    EXPECT_EQ(state.stationmsg[284], "");
+    EXPECT_EQ(state.stationmsg[285], " Zone Overload");
+
+    rig.currentType = "B737-300";
+    form.cargocheck();
+    EXPECT_EQ(state.stationmsg[285], "");
+}
+
+TEST(JetCount, PassengersAreSeatsAndContainersAreMainDeckCargo)
+{
+    JetRig rig;
+    Boeing& form = rig.open("B737-300");
+    LoadState& state = rig.session.state;
+    state.stationweight[kFirstClass1A] = 170;
+    state.stationweight[kSeat3C] = -5;
+    state.stationweight[kPilot] = 190;
+    state.stationweight[kForwardHold] = 800;
+    form.nopass();
+    EXPECT_EQ(state.npax, 1);
+    EXPECT_EQ(state.ncontainers, 0);
+
+    // A freighter's count: two crew, main-deck containers, then two holds.
+    state.nstations = 2;
+    state.ncrew = 2;
+    state.ncargo = 17;
+    state.nlower = 2;
+    state.stationweight.fill(0);
+    state.stationweight[2] = 100;
+    state.stationweight[16] = 100;
+    state.stationweight[17] = 100;
+    state.stationweight[18] = 100;
+    form.nopass();
+    EXPECT_EQ(state.npax, 0);
+    EXPECT_EQ(state.ncontainers, 2);
+}
+
+TEST(JetEmpty, EmptyAircraftKeepsTheCrew)
+{
+    JetRig rig;
+    Boeing& form = rig.open("B737-300");
+    LoadState& state = rig.session.state;
+    for (int i = 0; i < 136; ++i)
+        state.stationweight[i] = 100;
+    form.mnuempty_Click();
+    for (int i = 0; i < 128; ++i)
+        ASSERT_EQ(state.stationweight[i], 0) << i;
+    for (int i = 128; i < 134; ++i)
+        EXPECT_EQ(state.stationweight[i], 100) << i;
+    EXPECT_EQ(state.stationweight[kForwardHold], 0);
+    EXPECT_EQ(state.stationweight[kAftHold], 0);
+    EXPECT_EQ(state.loadweight, 600);
+    EXPECT_EQ(form.labels.lblpax.text, "PAX weight =  600 lb.");
+}
+
+TEST(JetPresets, LightSeatsAThirdOfTheFirstDrawAndLoadsTheHolds)
+{
+    JetRig rig;
+    Boeing& form = rig.open("B737-300");
+    LoadState& state = rig.session.state;
+    state.stationweight[kPilot] = 185;
+    // 0.1344 × 128 / 3 = 5.73: five passengers, each a weight and a seat draw; then the two holds.
+    rig.random.push(0.1344);
+    const double seats[] = {0.0, 0.1, 0.2, 0.3, 0.4};
+    for (double seat : seats) {
+        rig.random.push(0.5);
+        rig.random.push(seat);
+    }
+    rig.random.push(0.5);
+    rig.random.push(0.25);
+    form.mnulight_Click();
+
+    EXPECT_EQ(rig.random.overdrawn(), 0);
+    EXPECT_EQ(rig.random.left(), 0u);
+    EXPECT_EQ(occupiedSeats(state), 5);
+    for (int seat : {0, 12, 25, 38, 51})
+        EXPECT_FLOAT_EQ(state.stationweight[seat], 54 + 188 * 0.5f) << seat;
+    EXPECT_FLOAT_EQ(state.stationweight[kForwardHold], 2002 * (0.28f * 0.5f + 0.05f));
+    EXPECT_FLOAT_EQ(state.stationweight[kAftHold], 5168 * (0.28f * 0.25f + 0.05f));
+    EXPECT_EQ(state.stationweight[kPilot], 185);
+    EXPECT_FLOAT_EQ(state.loadweight, rig.sumOfWeights());
+    EXPECT_EQ(form.labels.lblpass.text, "Passengers  5 / 128");
+}
+
+TEST(JetPresets, MediumAndHeavyRemoveTheirShareOfAFullCabin)
+{
+    for (const auto& [preset, left] : {std::pair{&Boeing::mnumed_Click, 79}, std::pair{&Boeing::mnuheav_Click, 122}}) {
+        FirstThenSpread random(0.1344);
+        JetRig rig(&random);
+        Boeing& form = rig.open("B737-300");
+        LoadState& state = rig.session.state;
+        state.stationweight[kPilot] = 185;
+        (form.*preset)();
+        EXPECT_EQ(occupiedSeats(state), left);
+        EXPECT_EQ(state.stationweight[kPilot], 185);
+        EXPECT_FLOAT_EQ(state.loadweight, rig.sumOfWeights());
+        for (int i = 0; i < 128; ++i) {
+            if (state.stationweight[i] > 0) {
+                ASSERT_GE(state.stationweight[i], 54);
+                ASSERT_LT(state.stationweight[i], 242);
+            }
+        }
+    }
+}
+
+TEST(JetPresets, HeavyLoadsEveryHoldWithHalfToSeventyPercent)
+{
+    JetRig rig;
+    Boeing& form = rig.open("B737-300");
+    rig.random.push(0.0);
+    for (int i = 0; i < 128; ++i)
+        rig.random.push(0.0); // weights
+    rig.random.push(0.0);     // the one removed: seat 0
+    rig.random.push(0.999999);
+    rig.random.push(0.0);
+    form.mnuheav_Click();
+    const LoadState& state = rig.session.state;
+    EXPECT_EQ(state.stationweight[0], 0);
+    EXPECT_NEAR(state.stationweight[kForwardHold], 2002 * 0.7, 0.01);
+    EXPECT_FLOAT_EQ(state.stationweight[kAftHold], 5168 * 0.5f);
+}
+
+TEST(JetSave, PersonsAreWrittenAsOneStationAtTheirCentreOfWeight)
+{
+    JetRig rig;
+    Boeing& form = rig.open("B737-300");
+    rig.prompt.answer("1000");
+    press(rig, kForwardHold);
+    form.mnusave_Click();
+    std::string cfg = rig.dir.read("sim/aircraft/b737_300/aircraft.cfg");
+    EXPECT_NE(cfg.find("// B737-300 configuration two class 128 passangers.\r\n"), std::string::npos) << cfg;
+    EXPECT_NE(cfg.find("max_number_of_stations = 3\r\n"
+                       "station_load.0 = 0, 0.0, 0.0, 0.0 // All Personel (Crew + Passengers)\r\n"
+                       "station_load.1 = 1000, 17.5, 0.0, 0.0 // Lower Deck Cargo Forward\r\n"
+                       "station_load.2 = 0, -23.3, 0.0, 0.0 // Lower Deck Cargo Aft\r\n"),
+              std::string::npos)
+        << cfg;
+
+    rig.prompt.answer("170");
+    press(rig, kFirstClass1A);
+    rig.prompt.answer("170");
+    press(rig, kPilot);
+    form.mnusave_Click();
+    cfg = rig.dir.read("sim/aircraft/b737_300/aircraft.cfg");
+    EXPECT_NE(cfg.find("station_load.0 = 340, 31.8, -3.1, 0.0 // All Personel (Crew + Passengers)\r\n"),
+              std::string::npos)
+        << cfg;
+}
+
+TEST(JetForms, BoeingServesOnlyTheTypesWhoseDataExists)
+{
+    FormRegistry forms;
+    registerJetForms(forms);
+    EXPECT_TRUE(forms.serves("Boeing", "B737-300"));
+    for (const char* waiting : {"B737-200ADV", "B757-200", "B757-200F", "B727-212ADV", "B767-300ER", "MD-90-30",
+                                "DC-9-30F", "DC-8-71F", "b737-300"})
+        EXPECT_FALSE(forms.serves("Boeing", waiting)) << waiting;
+}
+
+} // namespace
+} // namespace quillet
