@@ -6,6 +6,8 @@
 #include "TextWindow.h"
 #include "platform/QtCanvas.h"
 #include "platform/QtPrompt.h"
+#include "jets/JetForms.h"
+#include "jets/JetWindow.h"
 #include "platform/Twips.h"
 #include "regional/RegionalForms.h"
 #include "regional/RegionalWindow.h"
@@ -29,6 +31,8 @@ Application::Application(std::filesystem::path programFolder, Prompt* prompt)
     m_form1 = std::make_unique<Form1>(*m_session, m_forms);
     registerRegionalForms(m_forms);
     registerRegionalWindows(*this);
+    registerJetForms(m_forms);
+    registerJetWindows(*this);
 
     showMessage = [this](const std::string& text) {
         QWidget* parent = QApplication::activeWindow();

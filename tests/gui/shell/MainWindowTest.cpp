@@ -27,10 +27,11 @@ TEST_F(MainWindowGui, ListsTheEntriesWhoseAircraftCfgExistsAndShowsTheSummary)
     EXPECT_EQ(combo->itemText(1), "DC-10-30F");
     EXPECT_EQ(combo->currentText(), "B737-300");
     EXPECT_EQ(combo->toolTip(), "Select Aircraft Type");
-    EXPECT_EQ(text("lblbow"), "Basic Operating weight = 0 lb.");
+    // The B737-300's empty aircraft, its tanks full.
+    EXPECT_EQ(text("lblbow"), "Basic Operating weight = 69953 lb.");
     EXPECT_EQ(text("lblpax"), "PAX weight =  0 lb.");
-    EXPECT_EQ(text("lblmf"), "Maximum Allowable Fuel weight =  0 lb.");
-    EXPECT_EQ(text("lbltot"), "Total weight = 0 lb.");
+    EXPECT_EQ(text("lblmf"), "Maximum Allowable Fuel weight =  35508 lb.");
+    EXPECT_EQ(text("lbltot"), "Total weight = 105461 lb.");
     EXPECT_TRUE(main()->isVisible());
     EXPECT_FALSE(app->configDialog()->isVisible()) << "the simulator folder is confirmed";
 

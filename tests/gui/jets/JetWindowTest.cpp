@@ -1,0 +1,129 @@
+#include "GuiFixture.h"
+
+#include "jets/Boeing.h"
+#include "shell/LoadFormWindow.h"
+#include "platform/PictureBox.h"
+#include "platform/QtCanvas.h"
+
+#include <QAction>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTest>
+
+namespace quillet {
+namespace {
+
+constexpr QRgb kGreenPixel = 0x00FF00;
+constexpr QRgb kRedPixel = 0xFF0000;
+
+class JetWindowGui : public GuiFixture {
+protected:
+    void SetUp() override
+    {
+        dir.makeSimulator();
+        dir.makeAircraft("b737", "aircraft.cfg",
+                         "[fltsim.0]\r\ntitle=737\r\n\r\n[WEIGHT_AND_BALANCE]\r\nempty_weight = 69953\r\n");
+        dir.writeIni(dir.sim(), {"B737-300,b737", "B757-200,b737"});
+        dir.write("B737-300.gif", TempDir::readFile(std::filesystem::path(QUILLET_PICTURES) / "B737-300.gif"));
+    }
+
+    QMainWindow* jetWindow() const { return app->window("Boeing"); }
+    Boeing& boeing() const { return static_cast<Boeing&>(*app->forms().existing("Boeing")); }
+
+    // The colours found in a pixel rectangle of the deck picture.
+    std::set<QRgb> colours(int left, int top, int right, int bottom) const
+    {
+        const QImage& image = dynamic_cast<QtCanvas&>(boeing().Picture1()).image();
+        std::set<QRgb> found;
+        for (int y = top; y <= bottom; ++y) {
+            for (int x = left; x <= right; ++x)
+                found.insert(image.pixel(x, y) & 0xFFFFFF);
+        }
+        return found;
+    }
+};
+
+TEST_F(JetWindowGui, OpensOnTheB737AndLoadsASeatWithTheMouse)
+{
+    start();
+    QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
+    ASSERT_NE(jetWindow(), nullptr);
+    EXPECT_TRUE(jetWindow()->isVisible());
+    EXPECT_EQ(jetWindow()->windowTitle(), "B737-300");
+    EXPECT_EQ(jetWindow()->centralWidget()->size(), QSize(654, 325));
+    QWidget* decks = find<QWidget>(jetWindow(), "Picture1");
+    EXPECT_EQ(decks->geometry(), QRect(8, 0, 633, 140));
+    EXPECT_EQ(find<QWidget>(jetWindow(), "Picture2")->geometry(), QRect(288, 176, 154, 107));
+    EXPECT_FALSE(find<PictureBox>(jetWindow(), "Picture2")->picture().isNull());
+
+    QStringList menus;
+    for (QAction* menu : jetWindow()->menuBar()->actions()) {
+        menus << menu->text();
+        for (QAction* item : menu->menu()->actions())
+            menus << (item->isSeparator() ? QStringLiteral("-") : item->text());
+    }
+    EXPECT_EQ(menus.join('|'), "&File|&Re-load Configuration|&Save configuration|&Auto Load|&Empty Aircraft|-|"
+                               "&Light Load|&Medium Load|&Heavy Load");
+
+    // Seat 1A is drawn at (3045, 854) twips: pixel (203, 56.9) of the picture.
+    prompt.answer("170");
+    QTest::mouseClick(decks, Qt::LeftButton, {}, QPoint(203, 57));
+    ASSERT_EQ(prompt.asked().size(), 1u);
+    EXPECT_EQ(prompt.asked()[0].prompt, "Passenger 1A weight in lbs");
+    EXPECT_EQ(find<QLabel>(jetWindow(), "lblpass")->text(), "Passengers  1 / 128");
+    EXPECT_EQ(find<QLabel>(jetWindow(), "lblpax")->text(), "PAX weight =  170 lb.");
+    EXPECT_TRUE(colours(202, 56, 204, 58).count(kGreenPixel));
+
+    QTest::mouseClick(decks, Qt::RightButton, {}, QPoint(203, 57));
+    EXPECT_EQ(find<QLabel>(jetWindow(), "lblpass")->text(), "Passengers  1 / 128");
+
+    jetWindow()->close();
+    QApplication::processEvents();
+    EXPECT_TRUE(main()->isVisible());
+}
+
+TEST_F(JetWindowGui, LoadedHoldsAreHatchedInsideTheirOutlineOnly)
+{
+    start();
+    QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
+    QWidget* decks = find<QWidget>(jetWindow(), "Picture1");
+    // Forward hold: (9..26 ft, -4..4 ft) around the lower-deck origin (68, 21) at 70 twips per foot,
+    // that is pixels 196..275 across and 79..116 down; the aft hold lies at pixels 364..489.
+    prompt.answer("1500");
+    QTest::mouseClick(decks, Qt::LeftButton, {}, QPoint(236, 98));
+    EXPECT_EQ(boeing().Picture1().scaleWidth(), 9495);
+    const auto forward = colours(200, 83, 270, 112);
+    EXPECT_TRUE(forward.count(kGreenPixel));
+    EXPECT_FALSE(forward.count(kRedPixel));
+    EXPECT_FALSE(colours(200, 70, 270, 76).count(kGreenPixel));
+    EXPECT_FALSE(colours(370, 83, 480, 112).count(kGreenPixel));
+
+    // Over its 2002 lb the hold turns red at once: the click checks the cargo before drawing.
+    QTest::mouseClick(decks, Qt::LeftButton, {}, QPoint(236, 98));
+    prompt.answer("2500");
+    QTest::mouseClick(decks, Qt::LeftButton, {}, QPoint(236, 98));
+    const auto overloaded = colours(200, 83, 270, 112);
+    EXPECT_TRUE(overloaded.count(kRedPixel));
+    EXPECT_FALSE(overloaded.count(kGreenPixel));
+
+    // A pointer resting on the hold shows its label with the overload.
+    QTest::mouseMove(decks, QPoint(240, 100));
+    QApplication::processEvents();
+    EXPECT_TRUE(colours(200, 83, 270, 112).count(kRedPixel));
+}
+
+TEST_F(JetWindowGui, TypesWithoutDataStillSayTheyCannotBeLoaded)
+{
+    start();
+    QComboBox* list = find<QComboBox>(main(), "Combo1");
+    list->setCurrentIndex(1);
+    emit list->activated(1);
+    QApplication::processEvents();
+    ASSERT_FALSE(told.empty());
+    EXPECT_NE(told.back().find("\"B757-200\" cannot be loaded yet"), std::string::npos) << told.back();
+    QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
+    EXPECT_EQ(jetWindow(), nullptr);
+}
+
+} // namespace
+} // namespace quillet
