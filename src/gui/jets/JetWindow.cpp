@@ -12,20 +12,6 @@
 
 namespace quillet {
 
-int buttonNumber(Qt::MouseButton button)
-{
-    switch (button) {
-    case Qt::LeftButton:
-        return 1;
-    case Qt::RightButton:
-        return 2;
-    case Qt::MiddleButton:
-        return 4;
-    default:
-        return 0;
-    }
-}
-
 JetWindow::JetWindow(Boeing& form, Application& app) : LoadFormWindow(form, app), m_boeing(form)
 {
     setObjectName(QStringLiteral("Boeing"));

@@ -32,7 +32,4 @@ private:
 // Adds the window of the form "Boeing".
 void registerJetWindows(Application& app);
 
-// The button number the forms' mouse handlers take: 1 left, 2 right, 4 middle.
-int buttonNumber(Qt::MouseButton button);
-
 } // namespace quillet

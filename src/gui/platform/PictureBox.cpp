@@ -57,4 +57,18 @@ void PictureBox::mouseMoveEvent(QMouseEvent* event)
         onMouseMove(event->buttons(), event->position().x() * 15.0, event->position().y() * 15.0);
 }
 
+int buttonNumber(Qt::MouseButton button)
+{
+    switch (button) {
+    case Qt::LeftButton:
+        return 1;
+    case Qt::RightButton:
+        return 2;
+    case Qt::MiddleButton:
+        return 4;
+    default:
+        return 0;
+    }
+}
+
 } // namespace quillet

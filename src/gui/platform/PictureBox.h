@@ -36,4 +36,7 @@ private:
     bool m_border = true;
 };
 
+// The button number the forms' mouse handlers take: 1 left, 2 right, 4 middle.
+int buttonNumber(Qt::MouseButton button);
+
 } // namespace quillet
