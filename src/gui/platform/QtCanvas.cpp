@@ -3,9 +3,9 @@
 #include "Twips.h"
 #include "platform/FloodFill.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quillet {
@@ -14,6 +14,18 @@ namespace {
 
 // 96 dots per inch, so that point sizes come out as on the screens the layouts were made for.
 constexpr int kDotsPerMetre = 3780;
+// Labels carry weights, so their texts vary; the cache is dropped when it grows past this.
+constexpr std::size_t kRenderedTextsKept = 512;
+
+QRgb toQRgb(Rgb colour)
+{
+    return qRgb(colour.r, colour.g, colour.b);
+}
+
+int pixel(double v)
+{
+    return static_cast<int>(std::floor(v));
+}
 
 } // namespace
 
@@ -25,6 +37,7 @@ QtCanvas::QtCanvas(double widthTwips, double heightTwips, Rgb background)
     m_image.setDotsPerMeterX(kDotsPerMetre);
     m_image.setDotsPerMeterY(kDotsPerMetre);
     m_image.fill(m_background);
+    takeRows();
     fontChanged();
 }
 
@@ -34,17 +47,38 @@ void QtCanvas::changed()
         onChanged();
 }
 
-QBrush QtCanvas::fillBrush() const
+void QtCanvas::takeRows()
 {
-    switch (fillStyle()) {
-    case FillStyle::Solid:
-        return QBrush(toQColor(fillColor()));
-    case FillStyle::DiagonalCross:
-        return QBrush(toQColor(fillColor()), Qt::DiagCrossPattern);
-    case FillStyle::Transparent:
-        break;
+    // bits() detaches the image should the widget have kept a shared copy of it.
+    m_bits = reinterpret_cast<QRgb*>(m_image.bits());
+    m_stride = m_image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb));
+    m_width = m_image.width();
+    m_height = m_image.height();
+}
+
+void QtCanvas::span(int left, int right, int y, QRgb colour)
+{
+    if (y < 0 || y >= m_height)
+        return;
+    left = std::max(left, 0);
+    right = std::min(right, m_width - 1);
+    QRgb* line = row(y);
+    for (int x = left; x <= right; ++x)
+        line[x] = colour;
+}
+
+void QtCanvas::fillSpan(int left, int right, int y)
+{
+    if (fillStyle() == FillStyle::Transparent || y < 0 || y >= m_height)
+        return;
+    const QRgb colour = toQRgb(fillColor());
+    left = std::max(left, 0);
+    right = std::min(right, m_width - 1);
+    QRgb* line = row(y);
+    for (int x = left; x <= right; ++x) {
+        if (takesFill(fillStyle(), x, y))
+            line[x] = colour;
     }
-    return Qt::NoBrush;
 }
 
 void QtCanvas::doClear()
@@ -55,71 +89,166 @@ void QtCanvas::doClear()
 
 void QtCanvas::doLine(double x1, double y1, double x2, double y2, Rgb colour)
 {
-    QPainter painter(&m_image);
-    painter.setPen(QPen(toQColor(colour), 0));
-    painter.drawLine(QPointF(std::floor(x1), std::floor(y1)), QPointF(std::floor(x2), std::floor(y2)));
-    changed();
-}
-
-void QtCanvas::doBox(double x1, double y1, double x2, double y2, Rgb outline)
-{
-    QPainter painter(&m_image);
-    painter.setPen(QPen(toQColor(outline), 0));
-    painter.setBrush(fillBrush());
-    painter.setBrushOrigin(0, 0);
-    const QRectF box = QRectF(QPointF(std::floor(x1), std::floor(y1)), QPointF(std::floor(x2), std::floor(y2)))
-                           .normalized();
-    painter.drawRect(box);
-    changed();
-}
-
-void QtCanvas::doCircle(double cx, double cy, double radius, Rgb outline)
-{
-    QPainter painter(&m_image);
-    painter.setPen(QPen(toQColor(outline), 0));
-    painter.setBrush(fillBrush());
-    painter.setBrushOrigin(0, 0);
-    painter.drawEllipse(QPointF(cx, cy), radius, radius);
-    changed();
-}
-
-void QtCanvas::doFloodFill(int px, int py)
-{
-    const QRgb border = toQColor(foreColor()).rgb();
-    const int width = m_image.width();
-    const auto mask = floodRegion(width, m_image.height(), px, py, [this, border](int x, int y) {
-        return (m_image.pixel(x, y) & 0xFFFFFF) == (border & 0xFFFFFF);
-    });
-    if (mask.empty())
-        return;
-    const QRgb fill = toQColor(fillColor()).rgb();
-    for (int y = 0; y < m_image.height(); ++y) {
-        for (int x = 0; x < width; ++x) {
-            if (mask[static_cast<std::size_t>(y) * width + x] && takesFill(fillStyle(), x, y))
-                m_image.setPixel(x, y, fill);
+    takeRows();
+    // Bresenham, both ends included.
+    int x = pixel(x1);
+    int y = pixel(y1);
+    const int xEnd = pixel(x2);
+    const int yEnd = pixel(y2);
+    const int dx = std::abs(xEnd - x);
+    const int dy = -std::abs(yEnd - y);
+    const int stepX = x < xEnd ? 1 : -1;
+    const int stepY = y < yEnd ? 1 : -1;
+    const QRgb pen = toQRgb(colour);
+    int error = dx + dy;
+    for (;;) {
+        plot(x, y, pen);
+        if (x == xEnd && y == yEnd)
+            break;
+        const int twice = 2 * error;
+        if (twice >= dy) {
+            error += dy;
+            x += stepX;
+        }
+        if (twice <= dx) {
+            error += dx;
+            y += stepY;
         }
     }
     changed();
 }
 
+void QtCanvas::doBox(double x1, double y1, double x2, double y2, Rgb outline)
+{
+    takeRows();
+    const int left = std::min(pixel(x1), pixel(x2));
+    const int right = std::max(pixel(x1), pixel(x2));
+    const int top = std::min(pixel(y1), pixel(y2));
+    const int bottom = std::max(pixel(y1), pixel(y2));
+    for (int y = top + 1; y < bottom; ++y)
+        fillSpan(left + 1, right - 1, y);
+    const QRgb pen = toQRgb(outline);
+    span(left, right, top, pen);
+    span(left, right, bottom, pen);
+    for (int y = top + 1; y < bottom; ++y) {
+        plot(left, y, pen);
+        plot(right, y, pen);
+    }
+    changed();
+}
+
+void QtCanvas::doCircle(double cx, double cy, double radius, Rgb outline)
+{
+    takeRows();
+    // The pixels whose centres lie within the radius, as one run per row; a pixel at a run's end or
+    // beyond the runs of the rows above or below is on the outline.
+    const int top = pixel(cy - radius);
+    const int bottom = pixel(cy + radius);
+    std::vector<std::pair<int, int>> runs;
+    runs.reserve(static_cast<std::size_t>(bottom - top + 3));
+    const auto runOf = [&](int y) -> std::pair<int, int> {
+        const double dy = y + 0.5 - cy;
+        const double reach = radius * radius - dy * dy;
+        if (reach < 0)
+            return {1, 0};
+        const double half = std::sqrt(reach);
+        return {static_cast<int>(std::ceil(cx - half - 0.5)), static_cast<int>(std::floor(cx + half - 0.5))};
+    };
+    for (int y = top - 1; y <= bottom + 1; ++y)
+        runs.push_back(runOf(y));
+
+    const QRgb pen = toQRgb(outline);
+    for (int y = top; y <= bottom; ++y) {
+        const auto [left, right] = runs[static_cast<std::size_t>(y - top + 1)];
+        if (left > right)
+            continue;
+        const auto [upLeft, upRight] = runs[static_cast<std::size_t>(y - top)];
+        const auto [downLeft, downRight] = runs[static_cast<std::size_t>(y - top + 2)];
+        const int innerLeft = std::max({left + 1, upLeft, downLeft});
+        const int innerRight = std::min({right - 1, upRight, downRight});
+        if (innerLeft <= innerRight) {
+            fillSpan(innerLeft, innerRight, y);
+            span(left, innerLeft - 1, y, pen);
+            span(innerRight + 1, right, y, pen);
+        } else {
+            span(left, right, y, pen);
+        }
+    }
+    changed();
+}
+
+void QtCanvas::doFloodFill(int px, int py)
+{
+    takeRows();
+    const QRgb border = toQRgb(foreColor()) & 0xFFFFFF;
+    floodRuns(
+        m_width, m_height, px, py, [this, border](int x, int y) { return (row(y)[x] & 0xFFFFFF) == border; },
+        [this](int left, int right, int y) { fillSpan(left, right, y); }, m_floodScratch);
+    changed();
+}
+
+const QtCanvas::RenderedText& QtCanvas::rendered(std::string_view text)
+{
+    std::string key = std::to_string(fontSize()) + (fontBold() ? "B|" : "|");
+    key += text;
+    if (auto found = m_texts.find(key); found != m_texts.end())
+        return found->second;
+    if (m_texts.size() >= kRenderedTextsKept)
+        m_texts.clear();
+
+    RenderedText result;
+    const QString words = toQString(std::string(text));
+    result.width = m_metrics->horizontalAdvance(words);
+    const int width = static_cast<int>(std::ceil(result.width)) + 2;
+    const int height = static_cast<int>(std::ceil(m_metrics->height())) + 1;
+    QImage coverage(std::max(1, width), std::max(1, height), QImage::Format_Alpha8);
+    coverage.setDotsPerMeterX(kDotsPerMetre);
+    coverage.setDotsPerMeterY(kDotsPerMetre);
+    coverage.fill(0);
+    {
+        QPainter painter(&coverage);
+        painter.setFont(m_font);
+        painter.setPen(Qt::black);
+        painter.drawText(QPointF(0, m_metrics->ascent()), words);
+    }
+    for (int y = 0; y < coverage.height(); ++y) {
+        const uchar* alpha = coverage.constScanLine(y);
+        for (int x = 0; x < coverage.width(); ++x) {
+            if (alpha[x] != 0)
+                result.dots.push_back({x, y, alpha[x]});
+        }
+    }
+    return m_texts.emplace(std::move(key), std::move(result)).first->second;
+}
+
 void QtCanvas::doText(double x, double y, std::string_view text)
 {
-    QPainter painter(&m_image);
-    painter.setFont(m_font);
-    painter.setPen(toQColor(foreColor()));
-    const QFontMetricsF metrics(m_font, &m_image);
-    painter.drawText(QPointF(x, y + metrics.ascent()), toQString(std::string(text)));
+    takeRows();
+    const RenderedText& words = rendered(text);
+    const QRgb fore = toQRgb(foreColor());
+    const int left = pixel(x);
+    const int top = pixel(y);
+    for (const RenderedText::Dot& dot : words.dots) {
+        const int tx = left + dot.x;
+        const int ty = top + dot.y;
+        if (tx < 0 || ty < 0 || tx >= m_width || ty >= m_height)
+            continue;
+        QRgb& under = row(ty)[tx];
+        const int a = dot.alpha;
+        const auto mix = [a](int from, int to) { return (from * (255 - a) + to * a + 127) / 255; };
+        under = qRgb(mix(qRed(under), qRed(fore)), mix(qGreen(under), qGreen(fore)), mix(qBlue(under), qBlue(fore)));
+    }
     changed();
 }
 
 double QtCanvas::textWidthPixels(std::string_view text)
 {
-    return QFontMetricsF(m_font, &m_image).horizontalAdvance(toQString(std::string(text)));
+    return rendered(text).width;
 }
 
 double QtCanvas::textHeightPixels(std::string_view)
 {
-    return QFontMetricsF(m_font, &m_image).height();
+    return m_metrics->height();
 }
 
 void QtCanvas::fontChanged()
@@ -127,6 +256,7 @@ void QtCanvas::fontChanged()
     m_font = QFont(QStringLiteral("Arial"));
     m_font.setPointSizeF(fontSize());
     m_font.setBold(fontBold());
+    m_metrics.emplace(m_font, &m_image);
 }
 
 } // namespace quillet

@@ -3,14 +3,22 @@
 #include "platform/Canvas.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QImage>
 
 #include <functional>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+#include <cstdint>
 
 namespace quillet {
 
 // A picture box drawn into an image, the way the old toolkit drew on a window's device context:
-// no antialiasing, one-pixel lines, a real flood fill.
+// one-pixel lines, filled shapes and a real flood fill, set pixel by pixel, and text drawn by Qt.
+// Every pointer movement over a deck redraws the whole picture, so the shapes are rasterised here
+// directly and each text is rendered once and then copied.
 class QtCanvas final : public Canvas {
 public:
     QtCanvas(double widthTwips, double heightTwips, Rgb background = {255, 255, 255});
@@ -31,12 +39,40 @@ protected:
     void fontChanged() override;
 
 private:
-    QBrush fillBrush() const;
     void changed();
+    // Pixels are written straight into the image; a drawing operation first takes its rows.
+    void takeRows();
+    QRgb* row(int y) { return m_bits + static_cast<std::ptrdiff_t>(y) * m_stride; }
+    void plot(int x, int y, QRgb colour)
+    {
+        if (x >= 0 && y >= 0 && x < m_width && y < m_height)
+            row(y)[x] = colour;
+    }
+    void span(int left, int right, int y, QRgb colour);
+    void fillSpan(int left, int right, int y);
+    // A text in the current font, measured and rendered once: its advance and the coverage of
+    // every pixel it touches.
+    struct RenderedText {
+        double width = 0;
+        struct Dot {
+            int x;
+            int y;
+            int alpha;
+        };
+        std::vector<Dot> dots;
+    };
+    const RenderedText& rendered(std::string_view text);
 
     QImage m_image;
+    QRgb* m_bits = nullptr;
+    std::ptrdiff_t m_stride = 0;
+    int m_width = 0;
+    int m_height = 0;
     QColor m_background;
     QFont m_font;
+    std::optional<QFontMetricsF> m_metrics;
+    std::unordered_map<std::string, RenderedText> m_texts;
+    std::vector<std::uint8_t> m_floodScratch;
 };
 
 } // namespace quillet
