@@ -8,7 +8,6 @@
 #include "platform/Random.h"
 
 #include <benchmark/benchmark.h>
-
 #include <filesystem>
 #include <random>
 #include <string>
@@ -19,11 +18,14 @@ namespace {
 class LoadedDeck {
 public:
     explicit LoadedDeck(const std::string& type)
-        : m_folder(std::filesystem::temp_directory_path() / ("quillet-bench-" + std::to_string(std::random_device()()))),
+        : m_folder(std::filesystem::temp_directory_path() /
+                   ("quillet-bench-" + std::to_string(std::random_device()()))),
           session(prompt, random, clock, m_folder), m_type(type)
     {
         std::filesystem::create_directories(m_folder);
-        session.makeCanvas = [](double width, double height) { return std::make_unique<QtCanvas>(width, height); };
+        session.makeCanvas = [](double width, double height) {
+            return std::make_unique<QtCanvas>(width, height);
+        };
         session.currentType = [this] { return m_type; };
         form = std::make_unique<Boeing>(session);
         // No aircraft folder: the reader only reports, and the set-up's table stays.

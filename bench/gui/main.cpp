@@ -1,8 +1,6 @@
 // Benchmarks that draw with Qt need an application for fonts; the offscreen platform serves.
 #include <QGuiApplication>
-
 #include <benchmark/benchmark.h>
-
 #include <cstdlib>
 
 int main(int argc, char* argv[])

@@ -14,8 +14,8 @@ namespace quillet {
 
 namespace {
 
-constexpr double kPersonHit = 60;  // twips either side of a seat's point
-constexpr double kCargoHit = 100;  // twips either side of a hold's point
+constexpr double kPersonHit = 60;         // twips either side of a seat's point
+constexpr double kCargoHit = 100;         // twips either side of a hold's point
 constexpr double kPersonHalfWidth = 0.75; // feet, for the hover labels
 constexpr double kCargoHalfWidth = 2.5;
 constexpr double kSeatDotRadius = 45;
@@ -194,7 +194,8 @@ void Boeing::Picture1_MouseDown(int Button, int, double X, double Y)
 {
     LoadState& state = m_session.state;
     for (int i = 0; i < personCount(); ++i) {
-        if (!(std::fabs(X - state.stationpx[i]) < kPersonHit && std::fabs(Y - state.stationpy[i]) < kPersonHit))
+        if (!(std::fabs(X - state.stationpx[i]) < kPersonHit &&
+              std::fabs(Y - state.stationpy[i]) < kPersonHit))
             continue;
         if (Button != kLeftButton)
             continue;
@@ -357,7 +358,8 @@ void Boeing::preset(Seating seating, PresetFactors factors)
         seating == Seating::Heavy ? cargoEnd : std::clamp(cargoFirst + state.nlower, cargoFirst, cargoEnd);
     for (int i = cargoFirst; i < cargoEnd; ++i) {
         const double share = factors.a * random.next() + factors.b;
-        const double weight = i < firstGroupEnd ? state.stationmax[i] * share : ratio * state.stationmax[i] * share;
+        const double weight =
+            i < firstGroupEnd ? state.stationmax[i] * share : ratio * state.stationmax[i] * share;
         state.stationweight[i] = static_cast<float>(weight);
     }
 

@@ -7,7 +7,7 @@ namespace quillet::boeing {
 // Where the jet load form places its controls, in twips inside its client area of 9810 × 4875.
 inline constexpr int kClientWidth = 9810;
 inline constexpr int kClientHeight = 4875;
-inline constexpr TwipsRect kPicture1{120, 0, 9500, 2100}; // the decks; takes the mouse
+inline constexpr TwipsRect kPicture1{120, 0, 9500, 2100};     // the decks; takes the mouse
 inline constexpr TwipsRect kPicture2{4320, 2640, 2310, 1605}; // the aircraft's picture
 
 inline constexpr SummaryLayout kSummary{

@@ -1,5 +1,4 @@
 #include "JetType.h"
-
 #include "data737.h"
 
 #include <algorithm>
@@ -11,8 +10,14 @@ namespace {
 
 // In the order the jet form tries the type strings; origins in feet.
 const std::array kJetTypes{
-    JetType{"B737-300", "data737", data737::setUpB737_300, {68, 8, 21, 21}, data737::mainDeck, data737::seats,
-            data737::lowerDeck, 2},
+    JetType{"B737-300",
+            "data737",
+            data737::setUpB737_300,
+            {68, 8, 21, 21},
+            data737::mainDeck,
+            data737::seats,
+            data737::lowerDeck,
+            2},
 };
 
 } // namespace

@@ -70,7 +70,8 @@ void DeckPen::text(std::string_view text, FeetPoint topLeft, bool bold)
 void DeckPen::textEndingAt(std::string_view text, double x)
 {
     m_canvas.setFont(m_canvas.fontSize(), false);
-    m_canvas.setCurrentPoint(m_map.toX(x) - m_canvas.textWidth(text), m_map.y0 * m_map.scale - m_canvas.textHeight("T") / 2);
+    m_canvas.setCurrentPoint(m_map.toX(x) - m_canvas.textWidth(text),
+                             m_map.y0 * m_map.scale - m_canvas.textHeight("T") / 2);
     m_canvas.print(text);
 }
 

@@ -40,10 +40,16 @@ public:
     void line(FeetPoint from, FeetPoint to);
     // Joins the points in order; a closed outline repeats its first point at the end.
     void polyline(std::span<const FeetPoint> points);
-    void polyline(std::initializer_list<FeetPoint> points) { polyline(std::span(points.begin(), points.size())); }
+    void polyline(std::initializer_list<FeetPoint> points)
+    {
+        polyline(std::span(points.begin(), points.size()));
+    }
     // The same polyline on both sides of the centre line: as given, then with every y negated.
     void bothSides(std::span<const FeetPoint> points);
-    void bothSides(std::initializer_list<FeetPoint> points) { bothSides(std::span(points.begin(), points.size())); }
+    void bothSides(std::initializer_list<FeetPoint> points)
+    {
+        bothSides(std::span(points.begin(), points.size()));
+    }
     // A closed polygon: the points joined in order and back to the first.
     void closed(std::span<const FeetPoint> points);
     void closed(std::initializer_list<FeetPoint> points) { closed(std::span(points.begin(), points.size())); }

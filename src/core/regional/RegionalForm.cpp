@@ -28,8 +28,8 @@ float weightAnswer(const std::optional<std::string>& answer)
 RegionalForm::RegionalForm(Session& session, const RegionalType& type)
     : LoadForm(session), m_type(type),
       m_cabin(session.makeCanvas(type.layout.cabin.width, type.layout.cabin.height)),
-      m_picture4(session.makeCanvas(type.layout.Picture4.width, type.layout.Picture4.height)),
-      m_picture3(session.makeCanvas(type.layout.Picture3.width, type.layout.Picture3.height))
+      m_picture4(session.makeCanvas(type.layout.summary.Picture4.width, type.layout.summary.Picture4.height)),
+      m_picture3(session.makeCanvas(type.layout.summary.Picture3.width, type.layout.summary.Picture3.height))
 {
     for (const StationRow& row : type.stations) {
         location.push_back({row.location, std::string(kEmptyTooltip)});

@@ -73,26 +73,7 @@ struct RegionalLayout {
     std::string_view photoName; // the photograph's picture box
     TwipsRect photo;
     std::string_view photoFile;
-    TwipsRect Picture4;
-    TwipsRect Label2;
-    TwipsRect Picture3;
-    TwipsRect Label3;
-    TwipsRect Label1;
-    TwipsRect lblbow;
-    TwipsRect lblpax;
-    TwipsRect lblmf;
-    TwipsRect lbltot;
-    TwipsRect warning;
-    TwipsRect lblpass;
-    TwipsRect lblmaxtow;
-    TwipsRect lblmaxfuel;
-    TwipsLine Line1;
-
-    SummaryLayout summary() const
-    {
-        return {Picture4, Label2, Picture3, Label3, Label1, lblbow, lblpax, lblmf, lbltot,
-                warning,  lblpass, lblmaxtow, lblmaxfuel, Line1};
-    }
+    SummaryLayout summary;
 };
 
 // "File" holds reload and save, "Auto Load" the three presets.

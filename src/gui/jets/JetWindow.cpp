@@ -45,7 +45,8 @@ JetWindow::JetWindow(Boeing& form, Application& app) : LoadFormWindow(form, app)
 void JetWindow::buildMenus()
 {
     const auto item = [this](QMenu* menu, const MenuItem& entry, void (Boeing::*handler)()) {
-        addMenuItem(menu, entry, [this, handler] { m_app.handle([this, handler] { (m_boeing.*handler)(); }); });
+        addMenuItem(menu, entry,
+                    [this, handler] { m_app.handle([this, handler] { (m_boeing.*handler)(); }); });
     };
     QMenu* file = menuBar()->addMenu(latin(boeing::kMnufile.caption));
     file->setObjectName(latin(boeing::kMnufile.name));

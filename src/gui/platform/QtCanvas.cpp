@@ -4,7 +4,6 @@
 #include "platform/FloodFill.h"
 
 #include <QPainter>
-
 #include <algorithm>
 #include <cmath>
 
@@ -31,7 +30,8 @@ int pixel(double v)
 
 QtCanvas::QtCanvas(double widthTwips, double heightTwips, Rgb background)
     : Canvas(twipsToPixels(widthTwips), twipsToPixels(heightTwips)),
-      m_image(std::max(1, twipsToPixels(widthTwips)), std::max(1, twipsToPixels(heightTwips)), QImage::Format_RGB32),
+      m_image(std::max(1, twipsToPixels(widthTwips)), std::max(1, twipsToPixels(heightTwips)),
+              QImage::Format_RGB32),
       m_background(toQColor(background))
 {
     m_image.setDotsPerMeterX(kDotsPerMetre);
@@ -236,7 +236,8 @@ void QtCanvas::doText(double x, double y, std::string_view text)
         QRgb& under = row(ty)[tx];
         const int a = dot.alpha;
         const auto mix = [a](int from, int to) { return (from * (255 - a) + to * a + 127) / 255; };
-        under = qRgb(mix(qRed(under), qRed(fore)), mix(qGreen(under), qGreen(fore)), mix(qBlue(under), qBlue(fore)));
+        under = qRgb(mix(qRed(under), qRed(fore)), mix(qGreen(under), qGreen(fore)),
+                     mix(qBlue(under), qBlue(fore)));
     }
     changed();
 }

@@ -5,13 +5,12 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QImage>
-
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
-#include <cstdint>
 
 namespace quillet {
 

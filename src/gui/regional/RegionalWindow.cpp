@@ -107,7 +107,7 @@ RegionalWindow::RegionalWindow(RegionalForm& form, Application& app)
     m_photo->setObjectName(latin(layout.photoName));
     place(m_photo, layout.photo);
 
-    m_summary = std::make_unique<SummaryPanel>(m_client, layout.summary(), form);
+    m_summary = std::make_unique<SummaryPanel>(m_client, layout.summary, form);
 
     sync();
 }

@@ -9,7 +9,6 @@
 #include <QFrame>
 #include <QLabel>
 #include <QMenu>
-
 #include <algorithm>
 
 namespace quillet {

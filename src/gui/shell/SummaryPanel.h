@@ -3,7 +3,6 @@
 #include "shell/FormLayout.h"
 
 #include <QString>
-
 #include <functional>
 #include <string_view>
 

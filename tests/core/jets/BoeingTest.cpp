@@ -1,11 +1,9 @@
 #include "JetRig.h"
-
 #include "jets/JetForms.h"
 #include "jets/data737.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
+#include <gtest/gtest.h>
 
 namespace quillet {
 namespace {
@@ -101,8 +99,9 @@ TEST(JetB737_300, SetUpWritesTheTypeTable)
         const char* name;
         float x;
         float y;
-    } persons[] = {{128, "Pilot", 39.0f, -2.0f}, {129, "Co-Pilot", 39.0f, 2.0f}, {130, "Crew", 31.5f, 2.5f},
-                   {131, "Crew", 31.5f, -2.5f},  {132, "Crew", -36.5f, 2.3f},    {133, "Crew", -36.5f, -2.5f}};
+    } persons[] = {{128, "Pilot", 39.0f, -2.0f}, {129, "Co-Pilot", 39.0f, 2.0f},
+                   {130, "Crew", 31.5f, 2.5f},   {131, "Crew", 31.5f, -2.5f},
+                   {132, "Crew", -36.5f, 2.3f},  {133, "Crew", -36.5f, -2.5f}};
     for (const auto& person : persons) {
         EXPECT_EQ(state.stationname[person.index], person.name) << person.index;
         EXPECT_FLOAT_EQ(state.stationx[person.index], person.x) << person.index;
@@ -506,7 +505,8 @@ TEST(JetPresets, LightSeatsAThirdOfTheFirstDrawAndLoadsTheHolds)
 
 TEST(JetPresets, MediumAndHeavyRemoveTheirShareOfAFullCabin)
 {
-    for (const auto& [preset, left] : {std::pair{&Boeing::mnumed_Click, 79}, std::pair{&Boeing::mnuheav_Click, 122}}) {
+    for (const auto& [preset, left] :
+         {std::pair{&Boeing::mnumed_Click, 79}, std::pair{&Boeing::mnuheav_Click, 122}}) {
         FirstThenSpread random(0.1344);
         JetRig rig(&random);
         Boeing& form = rig.open("B737-300");
@@ -574,8 +574,8 @@ TEST(JetForms, BoeingServesOnlyTheTypesWhoseDataExists)
     FormRegistry forms;
     registerJetForms(forms);
     EXPECT_TRUE(forms.serves("Boeing", "B737-300"));
-    for (const char* waiting : {"B737-200ADV", "B757-200", "B757-200F", "B727-212ADV", "B767-300ER", "MD-90-30",
-                                "DC-9-30F", "DC-8-71F", "b737-300"})
+    for (const char* waiting : {"B737-200ADV", "B757-200", "B757-200F", "B727-212ADV", "B767-300ER",
+                                "MD-90-30", "DC-9-30F", "DC-8-71F", "b737-300"})
         EXPECT_FALSE(forms.serves("Boeing", waiting)) << waiting;
 }
 

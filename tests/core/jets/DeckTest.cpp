@@ -60,7 +60,8 @@ TEST(StationLabel, OpensRightOfItsStationUnlessItWouldPassTheLimit)
     const double station = 9435 - 100 - width;
     EXPECT_DOUBLE_EQ(drawStationLabel(canvas, text, station, 500, {100, 9435, false}), station + 100);
     EXPECT_DOUBLE_EQ(drawStationLabel(canvas, text, station, 500, {100, 9435, true}), station - 100 - width);
-    EXPECT_DOUBLE_EQ(drawStationLabel(canvas, text, station + 1, 500, {100, 9435, false}), station + 1 - 100 - width);
+    EXPECT_DOUBLE_EQ(drawStationLabel(canvas, text, station + 1, 500, {100, 9435, false}),
+                     station + 1 - 100 - width);
 
     const DrawOp box = canvas.ops(DrawOp::Kind::Box).front();
     EXPECT_DOUBLE_EQ(box.x2 - box.x1, width);

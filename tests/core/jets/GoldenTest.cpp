@@ -1,9 +1,8 @@
 #include "JetRig.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <fstream>
+#include <gtest/gtest.h>
 
 namespace quillet {
 namespace {

@@ -27,8 +27,9 @@ public:
             state.menutype[state.nmenu] = type;
             state.menufolder[state.nmenu] = folder;
             ++state.nmenu;
-            dir.makeAircraft(folder, "aircraft.cfg",
-                             "[fltsim.0]\r\ntitle=Test\r\n\r\n[WEIGHT_AND_BALANCE]\r\nmax_number_of_stations = 0\r\n");
+            dir.makeAircraft(
+                folder, "aircraft.cfg",
+                "[fltsim.0]\r\ntitle=Test\r\n\r\n[WEIGHT_AND_BALANCE]\r\nmax_number_of_stations = 0\r\n");
             dir.write(std::string(type) + ".gif", "GIF89a");
         }
         session.currentType = [this] { return currentType; };

@@ -1,9 +1,8 @@
 #include "GuiFixture.h"
-
 #include "jets/Boeing.h"
-#include "shell/LoadFormWindow.h"
 #include "platform/PictureBox.h"
 #include "platform/QtCanvas.h"
+#include "shell/LoadFormWindow.h"
 
 #include <QAction>
 #include <QMenuBar>
@@ -24,7 +23,8 @@ protected:
         dir.makeAircraft("b737", "aircraft.cfg",
                          "[fltsim.0]\r\ntitle=737\r\n\r\n[WEIGHT_AND_BALANCE]\r\nempty_weight = 69953\r\n");
         dir.writeIni(dir.sim(), {"B737-300,b737", "B757-200,b737"});
-        dir.write("B737-300.gif", TempDir::readFile(std::filesystem::path(QUILLET_PICTURES) / "B737-300.gif"));
+        dir.write("B737-300.gif",
+                  TempDir::readFile(std::filesystem::path(QUILLET_PICTURES) / "B737-300.gif"));
     }
 
     QMainWindow* jetWindow() const { return app->window("Boeing"); }
@@ -62,8 +62,9 @@ TEST_F(JetWindowGui, OpensOnTheB737AndLoadsASeatWithTheMouse)
         for (QAction* item : menu->menu()->actions())
             menus << (item->isSeparator() ? QStringLiteral("-") : item->text());
     }
-    EXPECT_EQ(menus.join('|'), "&File|&Re-load Configuration|&Save configuration|&Auto Load|&Empty Aircraft|-|"
-                               "&Light Load|&Medium Load|&Heavy Load");
+    EXPECT_EQ(menus.join('|'),
+              "&File|&Re-load Configuration|&Save configuration|&Auto Load|&Empty Aircraft|-|"
+              "&Light Load|&Medium Load|&Heavy Load");
 
     // Seat 1A is drawn at (3045, 854) twips: pixel (203, 56.9) of the picture.
     prompt.answer("170");
