@@ -5,11 +5,18 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <random>
 #include <system_error>
+#include <utility>
 
 #ifdef _WIN32
+#include <fcntl.h>
 #include <io.h>
+#include <share.h>
+#include <sys/stat.h>
 #else
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -34,24 +41,162 @@ std::string reason(const std::error_code& ec)
     return ec.message();
 }
 
-bool flushToDisk(std::FILE* file)
+std::string lastError()
 {
-    if (std::fflush(file) != 0)
-        return false;
+    return std::strerror(errno);
+}
+
+// The few calls that differ between systems: a file created only if nothing of its name exists (not
+// even a link), writes, a flush to the disk, and a flush of the folder that records a rename.
 #ifdef _WIN32
-    return _commit(_fileno(file)) == 0;
+int openNew(const fs::path& path)
+{
+    int fd = -1;
+    const errno_t error =
+        _wsopen_s(&fd, path.c_str(), _O_CREAT | _O_EXCL | _O_WRONLY | _O_BINARY | _O_NOINHERIT, _SH_DENYNO,
+                  _S_IREAD | _S_IWRITE);
+    if (error != 0) {
+        errno = error;
+        return -1;
+    }
+    return fd;
+}
+
+long long writeSome(int fd, const char* data, std::size_t size)
+{
+    const unsigned chunk = size > (1u << 30) ? (1u << 30) : static_cast<unsigned>(size);
+    return _write(fd, data, chunk);
+}
+
+bool syncFile(int fd)
+{
+    return _commit(fd) == 0;
+}
+
+bool closeFile(int fd)
+{
+    return _close(fd) == 0;
+}
+
+// Windows keeps only the read-only attribute, which a file we may replace does not have.
+void copyPermissions(int, const fs::path&, fs::perms) {}
+
+// NTFS journals the rename itself; a folder cannot be opened for flushing.
+void syncFolder(const fs::path&) {}
 #else
-    return fsync(fileno(file)) == 0;
+int openNew(const fs::path& path)
+{
+    int fd = -1;
+    do {
+        fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+    } while (fd < 0 && errno == EINTR);
+    return fd;
+}
+
+long long writeSome(int fd, const char* data, std::size_t size)
+{
+    return ::write(fd, data, size);
+}
+
+bool syncFile(int fd)
+{
+    return ::fsync(fd) == 0;
+}
+
+bool closeFile(int fd)
+{
+    return ::close(fd) == 0;
+}
+
+void copyPermissions(int fd, const fs::path&, fs::perms perms)
+{
+    (void)::fchmod(fd, static_cast<mode_t>(perms & fs::perms::mask));
+}
+
+// The rename lives in the folder: until the folder is flushed, a power cut may undo it.
+void syncFolder(const fs::path& folder)
+{
+    const int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    (void)::fsync(fd); // some file systems cannot; the file itself is on the disk already
+    ::close(fd);
+}
 #endif
+
+bool writeAll(int fd, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const long long written = writeSome(fd, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+fs::path folderOf(const fs::path& path)
+{
+    return path.parent_path().empty() ? fs::path(".") : path.parent_path();
 }
 
 } // namespace
 
 fs::path temporaryFor(const fs::path& path)
 {
-    fs::path temp = path;
-    temp += ".quillet-new";
-    return temp;
+    // Its own generator: the program's one random generator draws the presets, and must not be moved.
+    static std::mt19937_64 generator{std::random_device{}()};
+    char suffix[17];
+    std::snprintf(suffix, sizeof suffix, "%016llx", static_cast<unsigned long long>(generator()));
+    return folderOf(path) / ("." + path.filename().string() + "." + suffix + ".quillet-new");
+}
+
+std::optional<std::string> whyNotText(std::string_view bytes)
+{
+    if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
+        return "is saved as UTF-16 (Unicode) text, which Quillet cannot read; save it again as ANSI text";
+    const std::size_t nul = bytes.find('\0');
+    if (nul == std::string_view::npos)
+        return std::nullopt;
+    int line = 1;
+    for (std::size_t i = 0; i < nul; ++i) {
+        if (bytes[i] == '\n' || (bytes[i] == '\r' && (i + 1 >= bytes.size() || bytes[i + 1] != '\n')))
+            ++line;
+    }
+    return "is not a text file: it holds a NUL byte on line " + std::to_string(line);
+}
+
+PendingFile::PendingFile(PendingFile&& other) noexcept
+    : m_target(std::move(other.m_target)), m_temp(std::exchange(other.m_temp, {})),
+      m_targetExisted(other.m_targetExisted)
+{
+}
+
+PendingFile& PendingFile::operator=(PendingFile&& other) noexcept
+{
+    if (this != &other) {
+        discard();
+        m_target = std::move(other.m_target);
+        m_temp = std::exchange(other.m_temp, {});
+        m_targetExisted = other.m_targetExisted;
+    }
+    return *this;
+}
+
+PendingFile::~PendingFile()
+{
+    discard();
+}
+
+void PendingFile::discard()
+{
+    if (m_temp.empty())
+        return;
+    std::error_code ec;
+    fs::remove(m_temp, ec);
+    m_temp.clear();
 }
 
 Result<std::string> Files::read(const fs::path& path, std::uintmax_t maxBytes) const
@@ -72,7 +217,7 @@ Result<std::string> Files::read(const fs::path& path, std::uintmax_t maxBytes) c
 
     std::FILE* file = std::fopen(path.string().c_str(), "rb");
     if (!file)
-        return failure(path, "could not be opened: " + std::string(std::strerror(errno)));
+        return failure(path, "could not be opened: " + lastError());
     // Read to the end rather than trusting the size: the file may change while we read it.
     std::string bytes;
     char chunk[65536];
@@ -91,7 +236,7 @@ Result<std::string> Files::read(const fs::path& path, std::uintmax_t maxBytes) c
     return bytes;
 }
 
-Status Files::replace(const fs::path& path, std::string_view bytes) const
+Result<PendingFile> Files::prepare(const fs::path& path, std::string_view bytes) const
 {
     std::error_code ec;
     const auto status = fs::status(path, ec);
@@ -100,48 +245,101 @@ Status Files::replace(const fs::path& path, std::string_view bytes) const
         return failure(path, "is a folder, so it cannot be written");
     if (exists && (status.permissions() & fs::perms::owner_write) == fs::perms::none)
         return failure(path, "is read-only, so it was not changed");
-    const fs::path folder = path.parent_path().empty() ? fs::path(".") : path.parent_path();
+    const fs::path folder = folderOf(path);
     if (!fs::is_directory(folder, ec))
         return failure(path, "cannot be written: its folder " + quoted(folder) + " does not exist");
 
-    const fs::path temp = temporaryFor(path);
-    std::FILE* file = std::fopen(temp.string().c_str(), "wb");
-    if (!file)
-        return failure(path, "could not be written: " + std::string(std::strerror(errno)));
+    PendingFile pending;
+    int fd = -1;
+    for (int attempt = 0; attempt < 100 && fd < 0; ++attempt) {
+        pending.m_temp = temporaryFor(path);
+        fd = openNew(pending.m_temp);
+        if (fd < 0 && errno != EEXIST)
+            break;
+    }
+    if (fd < 0) {
+        pending.m_temp.clear();
+        return failure(path, "could not be written: " + lastError());
+    }
+    pending.m_target = path;
+    pending.m_targetExisted = exists;
 
-    std::size_t toWrite = bytes.size();
-    bool full = false;
-    if (m_failAfter && *m_failAfter < toWrite) {
-        toWrite = static_cast<std::size_t>(*m_failAfter);
-        full = true;
-    }
-    bool ok = (toWrite == 0 || std::fwrite(bytes.data(), 1, toWrite, file) == toWrite) && !full;
-    ok = flushToDisk(file) && ok;
-    ok = std::fclose(file) == 0 && ok;
-    if (!ok) {
-        fs::remove(temp, ec);
-        return failure(path, "could not be written completely (is the disk full?); the old file was kept");
-    }
+    std::string_view toWrite = bytes;
+    const bool full = m_failAfter && *m_failAfter < bytes.size();
+    if (full)
+        toWrite = bytes.substr(0, static_cast<std::size_t>(*m_failAfter));
+    bool ok = writeAll(fd, toWrite) && !full;
     if (exists)
-        fs::permissions(temp, status.permissions(), ec);
-    fs::rename(temp, path, ec);
-    if (ec) {
-        const std::string why = reason(ec);
-        fs::remove(temp, ec);
-        return failure(path, "could not be replaced: " + why + "; the old file was kept");
+        copyPermissions(fd, pending.m_temp, status.permissions());
+    ok = syncFile(fd) && ok;
+    ok = closeFile(fd) && ok;
+    if (!ok) {
+        return failure(path, std::string("could not be written completely (is the disk full?)") +
+                                 (exists ? "; the old file was kept" : ""));
     }
+#ifdef _WIN32
+    if (exists)
+        fs::permissions(pending.m_temp, status.permissions(), ec);
+#endif
+    return pending;
+}
+
+Status Files::commit(PendingFile& pending) const
+{
+    const fs::path& target = pending.m_target;
+    std::error_code ec;
+    if (m_renamesLeft && (*m_renamesLeft)-- <= 0)
+        ec = std::make_error_code(std::errc::device_or_resource_busy);
+    else
+        fs::rename(pending.m_temp, target, ec);
+    if (ec) {
+        pending.discard();
+        return failure(target, "could not be replaced: " + reason(ec) +
+                                   (pending.m_targetExisted ? "; the old file was kept" : ""));
+    }
+    pending.m_temp.clear();
+    syncFolder(folderOf(target));
     return success();
+}
+
+Status Files::replace(const fs::path& path, std::string_view bytes) const
+{
+    auto pending = prepare(path, bytes);
+    if (!pending)
+        return pending.error();
+    return commit(pending.value());
+}
+
+Status Files::createIfAbsent(const fs::path& path, std::string_view bytes) const
+{
+    std::error_code ec;
+    const auto entry = fs::symlink_status(path, ec);
+    if (ec && entry.type() == fs::file_type::none)
+        return failure(path, "could not be looked at: " + reason(ec));
+    if (fs::exists(entry)) {
+        const auto target = fs::status(path, ec);
+        if (fs::is_regular_file(target))
+            return success();
+        if (fs::is_directory(target))
+            return failure(path, "is a folder, not a file");
+        if (fs::is_symlink(entry) && !fs::exists(target)) {
+            return failure(path,
+                           "is a link to " + quoted(fs::read_symlink(path, ec)) + ", which does not exist");
+        }
+        return failure(path, "is not a plain file");
+    }
+    return replace(path, bytes);
 }
 
 Status Files::copyIfAbsent(const fs::path& from, const fs::path& to) const
 {
     std::error_code ec;
-    if (fs::exists(to, ec))
+    if (fs::is_regular_file(to, ec))
         return success();
-    fs::copy_file(from, to, fs::copy_options::none, ec);
-    if (ec && ec != std::errc::file_exists)
-        return failure(to, "could not be created: " + reason(ec));
-    return success();
+    auto bytes = read(from, static_cast<std::uintmax_t>(-1));
+    if (!bytes)
+        return bytes.error();
+    return createIfAbsent(to, bytes.value());
 }
 
 } // namespace quillet

@@ -10,8 +10,35 @@
 
 namespace quillet {
 
+class Files;
+
+// A new file's bytes, written to a temporary file beside it and flushed to the disk, waiting to be
+// renamed into place by `Files::commit`. Dropped without a commit, the temporary file is removed and
+// the target never changed.
+class PendingFile {
+public:
+    PendingFile() = default;
+    PendingFile(PendingFile&& other) noexcept;
+    PendingFile& operator=(PendingFile&& other) noexcept;
+    PendingFile(const PendingFile&) = delete;
+    PendingFile& operator=(const PendingFile&) = delete;
+    ~PendingFile();
+
+    const std::filesystem::path& target() const { return m_target; }
+
+private:
+    friend class Files;
+    void discard();
+
+    std::filesystem::path m_target;
+    std::filesystem::path m_temp; // empty once renamed or removed
+    bool m_targetExisted = false;
+};
+
 // Whole-file reading and writing for the user's files. A file is never half-written: the new bytes go
-// to a temporary file beside it, are flushed to the disk, and only then renamed over the old one.
+// to a temporary file of a fresh name beside it (created exclusively, so an existing file or link of
+// that name is never written through), are flushed to the disk, and only then renamed over the old
+// one.
 class Files {
 public:
     // The bytes of a file, refused when it is missing, not a plain file, unreadable or larger than
@@ -21,17 +48,35 @@ public:
     // Replaces (or creates) the file with exactly these bytes. A read-only file is left alone.
     Status replace(const std::filesystem::path& path, std::string_view bytes) const;
 
-    // Copies a file to a new name, never over an existing file.
+    // The first half of `replace`: every check and every write, the target not yet touched. Saving
+    // several files together prepares them all before committing any.
+    Result<PendingFile> prepare(const std::filesystem::path& path, std::string_view bytes) const;
+    // Renames a prepared file into place.
+    Status commit(PendingFile& pending) const;
+
+    // Writes a file that must not be replaced once it exists, such as a one-time backup. An existing
+    // plain file of that name is kept as it is; a folder or a link to nothing of that name is refused.
+    Status createIfAbsent(const std::filesystem::path& path, std::string_view bytes) const;
+
+    // Copies a file to a new name the way `createIfAbsent` writes, never over an existing file.
     Status copyIfAbsent(const std::filesystem::path& from, const std::filesystem::path& to) const;
 
     // Makes every later write fail once this many bytes of it are written, as a full disk would.
     void failWritesAfter(std::optional<std::uintmax_t> bytes) { m_failAfter = bytes; }
+    // Makes renames fail once this many more have succeeded, as a file locked by another program would.
+    void failRenamesAfter(std::optional<int> renames) { m_renamesLeft = renames; }
 
 private:
     std::optional<std::uintmax_t> m_failAfter;
+    mutable std::optional<int> m_renamesLeft;
 };
 
-// The temporary file that `Files::replace` writes before renaming it into place.
+// A fresh name for a temporary file beside `path`: hidden where the platform hides dot files, and
+// ending in ".quillet-new" so that one left behind by a crash is recognised.
 std::filesystem::path temporaryFor(const std::filesystem::path& path);
+
+// Why bytes cannot be one of our text files, as a predicate of the file ("is not a text file: ..."),
+// or nothing. Text files never hold NUL bytes; a file saved as UTF-16 holds one in every other byte.
+std::optional<std::string> whyNotText(std::string_view bytes);
 
 } // namespace quillet

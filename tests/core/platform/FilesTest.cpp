@@ -3,11 +3,20 @@
 #include "TempDir.h"
 
 #include <gtest/gtest.h>
+#include <set>
 
 namespace fs = std::filesystem;
 
 namespace quillet {
 namespace {
+
+std::set<std::string> namesIn(const fs::path& folder)
+{
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder))
+        names.insert(entry.path().filename().string());
+    return names;
+}
 
 TEST(Files, ReadsBytesUnchanged)
 {
@@ -44,9 +53,8 @@ TEST(Files, ReplaceWritesExactlyAndLeavesNoTemporary)
     const auto file = dir.write("aircraft.cfg", "old");
     ASSERT_TRUE(Files().replace(file, "new\r\n"));
     EXPECT_EQ(TempDir::readFile(file), "new\r\n");
-    EXPECT_FALSE(fs::exists(temporaryFor(file)));
     ASSERT_TRUE(Files().replace(dir.path() / "fresh.cfg", ""));
-    EXPECT_TRUE(fs::exists(dir.path() / "fresh.cfg"));
+    EXPECT_EQ(namesIn(dir.path()), (std::set<std::string>{"aircraft.cfg", "fresh.cfg"}));
 }
 
 TEST(Files, AFailedWriteKeepsTheOldFileWhole)
@@ -57,9 +65,94 @@ TEST(Files, AFailedWriteKeepsTheOldFileWhole)
     files.failWritesAfter(4);
     auto written = files.replace(file, "the new contents, longer");
     ASSERT_FALSE(written);
-    EXPECT_NE(written.error().message.find("old file was kept"), std::string::npos);
+    EXPECT_EQ(written.error().message,
+              "\"" + file.string() +
+                  "\" could not be written completely (is the disk full?); the old file was kept.");
     EXPECT_EQ(TempDir::readFile(file), "the old contents");
-    EXPECT_FALSE(fs::exists(temporaryFor(file)));
+    EXPECT_EQ(namesIn(dir.path()), std::set<std::string>{"aircraft.cfg"});
+}
+
+TEST(Files, ALinkPlantedWhereTheTemporaryFileUsedToBeIsNeverWrittenThrough)
+{
+    TempDir dir;
+    const auto outside = dir.write("elsewhere/victim.txt", "not yours");
+    const auto file = dir.write("sim/aircraft.cfg", "old");
+    fs::create_symlink(outside, dir.path() / "sim/aircraft.cfg.quillet-new");
+    ASSERT_TRUE(Files().replace(file, "new"));
+    EXPECT_EQ(TempDir::readFile(outside), "not yours");
+    EXPECT_FALSE(fs::is_symlink(file));
+    EXPECT_EQ(TempDir::readFile(file), "new");
+    EXPECT_TRUE(fs::is_symlink(dir.path() / "sim/aircraft.cfg.quillet-new"));
+}
+
+TEST(Files, PreparedFilesChangeNothingUntilCommitted)
+{
+    TempDir dir;
+    const auto first = dir.write("aircraft.cfg", "old 1");
+    const auto second = dir.write("station.cfg", "old 2");
+    Files files;
+    {
+        auto a = files.prepare(first, "new 1");
+        auto b = files.prepare(second, "new 2");
+        ASSERT_TRUE(a && b);
+        EXPECT_EQ(TempDir::readFile(first), "old 1");
+        ASSERT_TRUE(files.commit(a.value()));
+        EXPECT_EQ(TempDir::readFile(first), "new 1");
+        // b is dropped without a commit.
+    }
+    EXPECT_EQ(TempDir::readFile(second), "old 2");
+    EXPECT_EQ(namesIn(dir.path()), (std::set<std::string>{"aircraft.cfg", "station.cfg"}));
+
+    files.failRenamesAfter(0);
+    auto c = files.prepare(second, "new 2");
+    ASSERT_TRUE(c);
+    auto renamed = files.commit(c.value());
+    ASSERT_FALSE(renamed);
+    EXPECT_TRUE(renamed.error().message.starts_with("\"" + second.string() + "\" could not be replaced: "));
+    EXPECT_TRUE(renamed.error().message.ends_with("; the old file was kept."));
+    EXPECT_EQ(TempDir::readFile(second), "old 2");
+    EXPECT_EQ(namesIn(dir.path()), (std::set<std::string>{"aircraft.cfg", "station.cfg"}));
+}
+
+TEST(Files, CreateIfAbsentWritesOnceAndOnlyAsAPlainFile)
+{
+    TempDir dir;
+    const auto backup = dir.path() / "aircraft.cfg.bak";
+    Files files;
+    files.failWritesAfter(3);
+    auto full = files.createIfAbsent(backup, "original");
+    ASSERT_FALSE(full);
+    EXPECT_NE(full.error().message.find("is the disk full?"), std::string::npos);
+    EXPECT_TRUE(namesIn(dir.path()).empty()) << "no backup, whole or not, and no temporary file";
+
+    files.failWritesAfter(std::nullopt);
+    ASSERT_TRUE(files.createIfAbsent(backup, "original"));
+    ASSERT_TRUE(files.createIfAbsent(backup, "changed"));
+    EXPECT_EQ(TempDir::readFile(backup), "original");
+
+    const auto folder = dir.path() / "folder.bak";
+    fs::create_directory(folder);
+    auto isFolder = files.createIfAbsent(folder, "x");
+    ASSERT_FALSE(isFolder);
+    EXPECT_EQ(isFolder.error().message, "\"" + folder.string() + "\" is a folder, not a file.");
+
+    const auto dangling = dir.path() / "dangling.bak";
+    const auto nowhere = dir.path() / "elsewhere" / "nothing";
+    fs::create_symlink(nowhere, dangling);
+    auto isLink = files.createIfAbsent(dangling, "x");
+    ASSERT_FALSE(isLink);
+    EXPECT_EQ(isLink.error().message, "\"" + dangling.string() + "\" is a link to \"" + nowhere.string() +
+                                          "\", which does not exist.");
+    EXPECT_FALSE(fs::exists(nowhere.parent_path()));
+}
+
+TEST(Files, TextFilesHoldNoNulBytes)
+{
+    EXPECT_EQ(whyNotText("[fltsim.0]\r\ntitle=\xE9t\xE9\r\n"), std::nullopt);
+    EXPECT_EQ(whyNotText(std::string("a\r\nb\nc\rd\0", 9)),
+              "is not a text file: it holds a NUL byte on line 4");
+    EXPECT_EQ(whyNotText(std::string("\xFF\xFE[\0f\0", 6)),
+              "is saved as UTF-16 (Unicode) text, which Quillet cannot read; save it again as ANSI text");
 }
 
 TEST(Files, ReadOnlyFilesAreNotReplaced)
