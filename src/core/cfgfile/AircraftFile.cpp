@@ -1,12 +1,24 @@
 #include "AircraftFile.h"
 
+#include "platform/Files.h"
 #include "platform/Paths.h"
+
+#include <algorithm>
 
 namespace quillet {
 
 namespace {
 
 constexpr std::string_view kSectionHeader = "[weight_and_balance]";
+
+// Whether only blanks come before position `end` of the line (and a UTF-8 mark on a file's first line).
+bool blanksBefore(std::string_view line, std::size_t end, bool firstLine)
+{
+    std::size_t start = 0;
+    if (firstLine && line.starts_with("\xEF\xBB\xBF"))
+        start = 3;
+    return end >= start && line.substr(start, end - start).find_first_not_of(" \t") == std::string_view::npos;
+}
 
 } // namespace
 
@@ -53,6 +65,8 @@ int measureSection(std::span<const std::string> lines)
 
 Result<AircraftLines> bufferAircraftFile(std::string_view bytes, int capacity)
 {
+    if (const auto notText = whyNotText(bytes))
+        return Error{*notText};
     AircraftLines out;
     out.lines = splitLines(bytes);
     out.sectionlines = measureSection(out.lines);
@@ -71,6 +85,35 @@ Result<AircraftLines> bufferAircraftFile(std::string_view bytes, int capacity)
         out.lines.emplace_back("[WEIGHT_AND_BALANCE]");
     }
     return out;
+}
+
+Status checkSection(std::span<const std::string> lines, int sectionlines, const std::string& fileName)
+{
+    std::size_t header = 0;
+    while (header < lines.size() && !isSectionHeader(lines[header]))
+        ++header;
+    if (header == lines.size())
+        return success();
+    const auto lineOf = [&](std::size_t i) {
+        return "line " + std::to_string(i + 1) + " of " + fileName + ", \"" + lines[i] + "\",";
+    };
+    const std::string& line = lines[header];
+    if (!blanksBefore(line, lowerAscii(line).find(kSectionHeader), header == 0)) {
+        return Error{
+            lineOf(header) +
+            " holds \"[WEIGHT_AND_BALANCE]\" after other text, so it is not the section's header line; "
+            "saving would put the new section in its place. Take that text out of the line, then "
+            "save again."};
+    }
+    const std::size_t end = header + static_cast<std::size_t>(std::max(sectionlines, 1));
+    if (end < lines.size() && !blanksBefore(lines[end], lines[end].find('['), false)) {
+        return Error{
+            lineOf(end) +
+            " ends the [WEIGHT_AND_BALANCE] section because it holds a \"[\", but it is not a section "
+            "header line; saving would leave the old section's lines after it below the new ones. "
+            "Take the \"[\" out of that line, then save again."};
+    }
+    return success();
 }
 
 std::string rewriteAircraftFile(std::span<const std::string> lines, int sectionlines,

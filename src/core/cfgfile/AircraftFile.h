@@ -28,9 +28,15 @@ bool isSectionHeader(std::string_view line);
 int measureSection(std::span<const std::string> lines);
 
 // The buffer for an aircraft.cfg's bytes. A file without the section gets an empty line and the
-// header appended, so that the writer has a place for its block. Refused when the result would not
-// fit the buffer's lines; the error reads as a predicate of the file ("has 302 lines, ...").
+// header appended, so that the writer has a place for its block. Refused when the bytes are not text
+// or the result would not fit the buffer's lines; the error reads as a predicate of the file
+// ("has 302 lines, ...").
 Result<AircraftLines> bufferAircraftFile(std::string_view bytes, int capacity);
+
+// Whether the block can replace the section without spoiling the file: the first line holding
+// "[WEIGHT_AND_BALANCE]" must be a header line (nothing but blanks before it), and so must the line
+// that ends the section (a "[" after blanks). The error names the line of `fileName` and says why.
+Status checkSection(std::span<const std::string> lines, int sectionlines, const std::string& fileName);
 
 // The new aircraft.cfg: every buffered line ended by CR LF, with `block` after the first section
 // header in place of the old section's body.

@@ -3,6 +3,7 @@
 #include "AircraftFile.h"
 #include "StationFile.h"
 #include "WeightBlock.h"
+#include "platform/Files.h"
 #include "platform/Paths.h"
 
 #include <algorithm>
@@ -33,6 +34,11 @@ Result<fs::path> aircraftFile(const Session& session, const std::string& type)
     const std::string* folder = session.state.folderOf(type);
     if (!folder)
         return Error{"The aircraft menu has no entry for \"" + type + "\", so its aircraft.cfg is unknown."};
+    // Anything but one folder name would lead out of the simulator's aircraft folder.
+    if (!isSingleName(*folder)) {
+        return Error{"The aircraft folder \"" + *folder + "\" of \"" + type +
+                     "\" is not a single folder name inside the simulator's aircraft folder."};
+    }
     return resolvePath(session.state.simfolder + "\\aircraft\\" + *folder + "\\aircraft.cfg",
                        session.programFolder);
 }
@@ -75,6 +81,8 @@ Status readFiles(Session& session, const std::string& type)
         auto text = session.files.read(stationPath, kMaxFileBytes);
         if (!text)
             return Error{text.error().message + notRead};
+        if (const auto notText = whyNotText(text.value()))
+            return Error{"The station file " + quoted(stationPath) + " " + *notText + "." + notRead};
         auto parsed = withStationFile(text.value(), session.state);
         if (!parsed) {
             return Error{"The station file " + quoted(stationPath) +
@@ -87,8 +95,13 @@ Status readFiles(Session& session, const std::string& type)
     // The backup keeps the file as it was before this program first changed it, so one that cannot be
     // made stops every later save.
     const fs::path backup = cfgPath.parent_path() / "aircraft.cfg.bak";
-    if (auto copied = session.files.copyIfAbsent(cfgPath, backup); !copied)
-        return Error{copied.error().message + notRead};
+    if (auto copied = session.files.createIfAbsent(backup, bytes); !copied) {
+        return Error{"The one-time backup of " + quoted(cfgPath) +
+                     " could not be made: " + copied.error().message +
+                     " Quillet keeps the aircraft's original file there before it "
+                     "changes anything." +
+                     notRead};
+    }
 
     LoadState& state = session.state;
     if (stored) {
@@ -145,17 +158,45 @@ Status writeFiles(Session& session)
                                 "weight and balance section are kept.");
     }
 
-    const auto block = weightAndBalanceBlock(state, type, session.clock.today());
     const auto lines = std::span(state.cfglines)
                            .first(static_cast<std::size_t>(std::clamp(state.cfgcount, 0, kCfgLineCapacity)));
+    if (auto fits = checkSection(lines, state.sectionlines, quoted(cfgPath)); !fits)
+        return Error{"Nothing was saved: " + fits.error().message};
+    const auto block = weightAndBalanceBlock(state, type, session.clock.today());
     std::string text = rewriteAircraftFile(lines, state.sectionlines, block);
-    if (auto written = session.files.replace(cfgPath, text); !written)
-        return Error{"Nothing was saved: " + written.error().message};
-    source.bytes = std::move(text);
 
-    if (auto written = session.files.replace(stationFile(session, type), stationFileText(state)); !written)
+    // A file the reader would refuse locks the user out of the aircraft, so it is never written.
+    const std::string grown = "Nothing was saved: with the new weight and balance section " + quoted(cfgPath);
+    const auto savedLines = splitLines(text).size();
+    if (savedLines > static_cast<std::size_t>(kCfgLineCapacity)) {
+        return Error{grown + " would have " + std::to_string(savedLines) + " lines, more than the " +
+                     std::to_string(kCfgLineCapacity) +
+                     " this program can read back. Remove some lines outside that section (comments, for "
+                     "instance), then save again."};
+    }
+    if (text.size() > kMaxFileBytes) {
+        return Error{grown + " would be " + std::to_string(text.size()) + " bytes, more than the " +
+                     std::to_string(kMaxFileBytes) + " this program can read back."};
+    }
+
+    // Both files are written out before either replaces its old one, so that a save does not stop
+    // half-way for a reason that could be known beforehand.
+    auto newCfg = session.files.prepare(cfgPath, text);
+    if (!newCfg)
+        return Error{"Nothing was saved: " + newCfg.error().message};
+    auto newStations = session.files.prepare(stationFile(session, type), stationFileText(state));
+    if (!newStations)
+        return Error{"Nothing was saved: " + newStations.error().message};
+    if (auto renamed = session.files.commit(newCfg.value()); !renamed)
+        return Error{"Nothing was saved: " + renamed.error().message};
+    source.bytes = std::move(text);
+    if (auto renamed = session.files.commit(newStations.value()); !renamed) {
         return Error{quoted(cfgPath) +
-                     " was saved, but the station file was not: " + written.error().message};
+                     " was saved: the simulator now flies the new load. But the station file "
+                     "was not: " +
+                     renamed.error().message + " The load Quillet keeps for \"" + type +
+                     "\" is still the previous one; save again to store the new one."};
+    }
     return success();
 }
 

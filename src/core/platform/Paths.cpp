@@ -114,6 +114,12 @@ bool fileExists(std::string_view path, const fs::path& base)
     return found && fs::is_regular_file(*found, ec);
 }
 
+bool isSingleName(std::string_view name)
+{
+    return name.find_first_of("/\\:") == std::string_view::npos &&
+           name.find_first_not_of(". \t") != std::string_view::npos;
+}
+
 std::string displayPath(const fs::path& path)
 {
     return path.lexically_normal().string();

@@ -21,6 +21,10 @@ std::filesystem::path resolvePath(std::string_view path, const std::filesystem::
 // Whether a file (not a folder) of that name exists.
 bool fileExists(std::string_view path, const std::filesystem::path& base = {});
 
+// Whether the text names one entry inside a folder rather than a path: not empty, no slash, backslash
+// or drive colon, and not made of dots and blanks alone ("..", and what Windows trims to it).
+bool isSingleName(std::string_view name);
+
 // The text of a path for a message: the way the user wrote it.
 std::string displayPath(const std::filesystem::path& path);
 

@@ -2,6 +2,7 @@
 
 #include "SmallType.h"
 #include "TempDir.h"
+#include "cfgfile/AircraftFile.h"
 #include "cfgfile/WeightBlock.h"
 
 #include <gtest/gtest.h>
@@ -13,6 +14,11 @@ namespace quillet {
 namespace {
 
 const std::string kType = "Beech 1900D";
+
+std::size_t splitLinesCount(const std::string& text)
+{
+    return splitLines(text).size();
+}
 
 // The small type's station file as the program writes it with nobody aboard.
 const std::string kStationFile = "4,16950,16500,10615,15000,3578\r\n"
@@ -208,6 +214,13 @@ TEST_F(CfgFileTest, AFailedReadTellsTheUserAndNothingIsWrittenThenOrAtASave)
         {"too many stations", "x", "4,16950,16500,10615,15000,3578\r\n300,202,1,2,0,1,0\r\n",
          "line 2: it lists 300 person and 202 cargo stations, more than the 501"},
         {"data left over", "x", kStationFile + "\"Extra\",1,2,3,4\r\n", "line 7: there is more data"},
+        {"UTF-16", std::string("\xFF\xFE[\0W\0]\0\r\0\n\0", 12), "",
+         "aircraft.cfg\" is saved as UTF-16 (Unicode) text, which Quillet cannot read; save it again as ANSI "
+         "text."},
+        {"NUL bytes", std::string("[fltsim.0]\r\nti\0tle=x\r\n", 21), "",
+         "aircraft.cfg\" is not a text file: it holds a NUL byte on line 2."},
+        {"NUL in the station file", "x", std::string("4,16950\0", 9),
+         ".cfg\" is not a text file: it holds a NUL byte on line 1."},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
@@ -286,8 +299,257 @@ TEST_F(CfgFileTest, AStationFileThatCannotBeCreatedIsReportedButTheReadStands)
     const auto told = session.messages.take();
     ASSERT_EQ(told.size(), 1u);
     EXPECT_NE(told[0].find("station file could not be created"), std::string::npos) << told[0];
-    EXPECT_FALSE(writecfg(session)) << "the station file's folder is still missing at the save";
-    EXPECT_NE(TempDir::readFile(cfg()).find("station_load.3"), std::string::npos);
+
+    // Still missing at the save: known before aircraft.cfg is touched, so neither file is written.
+    EXPECT_FALSE(writecfg(session));
+    EXPECT_EQ(TempDir::readFile(cfg()), "[WEIGHT_AND_BALANCE]\r\n");
+    EXPECT_EQ(session.messages.take(),
+              std::vector<std::string>{"Nothing was saved: \"" + stations().string() +
+                                       "\" cannot be written: its folder \"" +
+                                       session.programFolder.string() + "\" does not exist."});
+}
+
+TEST_F(CfgFileTest, TheOneTimeBackupIsWholeOrAbsentAndOnlyAPlainFileCounts)
+{
+    const std::string original =
+        "[fltsim.0]\r\ntitle=Beech\r\n[WEIGHT_AND_BALANCE]\r\nstation_load.0 = 1\r\n";
+    writeCfg(original);
+    const auto filesBefore = allFiles();
+    const std::string notRead =
+        " Quillet keeps the aircraft's original file there before it changes anything. The "
+        "load of \"Beech 1900D\" was not read, and nothing will be saved for it until it is "
+        "read successfully.";
+
+    // The disk fills up while the backup is written.
+    session.files.failWritesAfter(10);
+    EXPECT_FALSE(readcfg(session));
+    session.files.failWritesAfter(std::nullopt);
+    EXPECT_EQ(session.messages.take(),
+              std::vector<std::string>{"The one-time backup of \"" + cfg().string() +
+                                       "\" could not be made: \"" + backup().string() +
+                                       "\" could not be written completely (is the disk full?)." + notRead});
+    EXPECT_FALSE(writecfg(session));
+    EXPECT_EQ(session.messages.take().size(), 1u);
+    EXPECT_EQ(allFiles(), filesBefore) << "no backup, no temporary file, no station file";
+
+    ASSERT_TRUE(readcfg(session));
+    EXPECT_EQ(TempDir::readFile(backup()), original);
+
+    // A folder, or a link to nothing, of the backup's name is no backup.
+    fs::remove(backup());
+    fs::create_directory(backup());
+    EXPECT_FALSE(readcfg(session));
+    EXPECT_EQ(session.messages.take(),
+              std::vector<std::string>{"The one-time backup of \"" + cfg().string() +
+                                       "\" could not be made: \"" + backup().string() +
+                                       "\" is a folder, not a file." + notRead});
+    fs::remove(backup());
+    const fs::path nowhere = dir.path() / "gone" / "aircraft.cfg.bak";
+    fs::create_symlink(nowhere, backup());
+    EXPECT_FALSE(readcfg(session));
+    EXPECT_EQ(session.messages.take(),
+              std::vector<std::string>{"The one-time backup of \"" + cfg().string() +
+                                       "\" could not be made: \"" + backup().string() + "\" is a link to \"" +
+                                       nowhere.string() + "\", which does not exist." + notRead});
+    EXPECT_FALSE(fs::exists(dir.path() / "gone"));
+    EXPECT_EQ(TempDir::readFile(cfg()), original);
+}
+
+TEST_F(CfgFileTest, LinksPlantedWhereTheTemporaryFilesUsedToBeAreNeverWrittenThrough)
+{
+    writeCfg("a\r\n[WEIGHT_AND_BALANCE]\r\nold\r\n");
+    const auto victim = dir.write("victim.txt", "not yours");
+    fs::create_symlink(victim, dir.path() / "fs2000/aircraft/beech/aircraft.cfg.quillet-new");
+    fs::create_symlink(victim, session.programFolder / (kType + ".cfg.quillet-new"));
+    ASSERT_TRUE(readcfg(session));
+    session.state.stationweight[0] = 170;
+    session.state.loadweight = 170;
+    ASSERT_TRUE(writecfg(session));
+
+    EXPECT_EQ(TempDir::readFile(victim), "not yours");
+    EXPECT_FALSE(fs::is_symlink(cfg()));
+    EXPECT_FALSE(fs::is_symlink(stations()));
+    EXPECT_EQ(TempDir::readFile(cfg()), "a\r\n[WEIGHT_AND_BALANCE]\r\n" + block());
+    EXPECT_EQ(TempDir::readFile(stations()), "4,16950,16500,10615,15000,3578\r\n3,1,1,2,0,1,0\r\n"
+                                             "\"Pilot\",13.5,-2,0,170\r\n\"Co-pilot\",13.5,2,0,0\r\n"
+                                             "\"Passenger 1\",5.25,-1.1,0,0\r\n\"Cargo\",-17,0,0,0\r\n");
+}
+
+TEST_F(CfgFileTest, AFolderNameThatIsAPathWritesNothingAnywhere)
+{
+    writeCfg("[WEIGHT_AND_BALANCE]\r\n");
+    // An aircraft.cfg two folders above the simulator's aircraft folder.
+    dir.write("outside/aircraft.cfg", "[WEIGHT_AND_BALANCE]\r\n");
+    const std::string paths[] = {"..\\..\\..\\outside", "../../../outside", (dir.path() / "outside").string(),
+                                 ".."};
+    for (const std::string& folder : paths) {
+        SCOPED_TRACE(folder);
+        // The last entry of a type is the one used.
+        session.state.nmenu = 3;
+        session.state.menutype[2] = kType;
+        session.state.menufolder[2] = folder;
+        const auto filesBefore = allFiles();
+        EXPECT_FALSE(readcfg(session));
+        EXPECT_EQ(session.messages.take(),
+                  std::vector<std::string>{
+                      "The aircraft folder \"" + folder +
+                      "\" of \"Beech 1900D\" is not a single folder name inside the "
+                      "simulator's aircraft folder. The load of \"Beech 1900D\" was not "
+                      "read, and nothing will be saved for it until it is read successfully."});
+        EXPECT_FALSE(writecfg(session));
+        EXPECT_EQ(session.messages.take().size(), 1u);
+        EXPECT_EQ(allFiles(), filesBefore);
+    }
+}
+
+// A type with 33 stations, as many as a 30-seat commuter: its block is 51 lines.
+void setUpThirtyThreeStations(LoadState& s)
+{
+    s.cfgstations = 33;
+    s.nstations = 32;
+    s.ncargo = 1;
+    for (int i = 0; i < 33; ++i)
+        s.stationname[i] = "Seat " + std::to_string(i);
+}
+
+std::string linesOf(const std::string& line, int count)
+{
+    std::string text;
+    for (int i = 0; i < count; ++i)
+        text += line + "\r\n";
+    return text;
+}
+
+TEST_F(CfgFileTest, ASaveThatWouldGrowTheFilePastWhatCanBeReadBackWritesNothing)
+{
+    setUpThirtyThreeStations(session.state);
+    struct Case {
+        const char* what;
+        std::string file;
+        int savedLines; // 0: it fits
+    };
+    const Case cases[] = {
+        {"271 lines, a 10-line section",
+         "[fltsim.0]\r\n" + linesOf("k=v", 99) + "[WEIGHT_AND_BALANCE]\r\n" + linesOf("old", 9) +
+             "[next]\r\n" + linesOf("k=v", 160),
+         313},
+        {"301 lines, a 2-line section", "[WEIGHT_AND_BALANCE]\r\nold\r\n[next]\r\n" + linesOf("k=v", 298),
+         351},
+        {"299 lines, no section", "[fltsim.0]\r\n" + linesOf("k=v", 298), 352},
+        {"259 lines, a 10-line section: 301 saved",
+         "[fltsim.0]\r\n" + linesOf("k=v", 99) + "[WEIGHT_AND_BALANCE]\r\n" + linesOf("old", 9) +
+             "[next]\r\n" + linesOf("k=v", 148),
+         0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        writeCfg(c.file);
+        ASSERT_TRUE(readcfg(session));
+        const auto filesBefore = allFiles();
+        if (c.savedLines == 0) {
+            ASSERT_TRUE(writecfg(session));
+            EXPECT_EQ(splitLinesCount(TempDir::readFile(cfg())), 301u);
+        } else {
+            EXPECT_FALSE(writecfg(session));
+            EXPECT_EQ(
+                session.messages.take(),
+                std::vector<std::string>{
+                    "Nothing was saved: with the new weight and balance section \"" + cfg().string() +
+                    "\" would have " + std::to_string(c.savedLines) +
+                    " lines, more than the 301 this program can read back. Remove some lines outside that "
+                    "section (comments, for instance), then save again."});
+            EXPECT_EQ(allFiles(), filesBefore);
+        }
+        // Either way the file reads again without complaint.
+        EXPECT_TRUE(readcfg(session));
+        EXPECT_TRUE(session.messages.pending().empty());
+    }
+}
+
+TEST_F(CfgFileTest, ASectionWhoseHeaderOrEndIsNotAHeaderLineIsNotSaved)
+{
+    struct Case {
+        const char* what;
+        std::string file;
+        std::string said; // empty: saved
+    };
+    const Case cases[] = {
+        {"the header text in a comment first",
+         "[fltsim.0]\r\n// see [WEIGHT_AND_BALANCE] below\r\n[WEIGHT_AND_BALANCE]\r\nold\r\n",
+         "line 2 of \"" + cfg().string() +
+             "\", \"// see [WEIGHT_AND_BALANCE] below\", holds \"[WEIGHT_AND_BALANCE]\" after other text, so "
+             "it "
+             "is not the section's header line; saving would put the new section in its place. Take that "
+             "text out "
+             "of the line, then save again."},
+        {"a bracket in a comment ends the section",
+         "[WEIGHT_AND_BALANCE]\r\n// reference datum relative to nose [3.4]\r\nstation_load.0 = "
+         "1\r\n[next]\r\n",
+         "line 2 of \"" + cfg().string() +
+             "\", \"// reference datum relative to nose [3.4]\", ends the [WEIGHT_AND_BALANCE] section "
+             "because it "
+             "holds a \"[\", but it is not a section header line; saving would leave the old section's lines "
+             "after it below the new ones. Take the \"[\" out of that line, then save again."},
+        {"blanks before both headers, a comment after one",
+         "  [weight_and_balance] // ours\r\nold\r\n\t[next]\r\n", ""},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        writeCfg(c.file);
+        ASSERT_TRUE(readcfg(session));
+        const auto filesBefore = allFiles();
+        if (c.said.empty()) {
+            ASSERT_TRUE(writecfg(session));
+            EXPECT_EQ(TempDir::readFile(cfg()),
+                      "  [weight_and_balance] // ours\r\n" + block() + "\t[next]\r\n");
+            continue;
+        }
+        EXPECT_FALSE(writecfg(session));
+        EXPECT_EQ(session.messages.take(), std::vector<std::string>{"Nothing was saved: " + c.said});
+        EXPECT_EQ(allFiles(), filesBefore);
+    }
+}
+
+TEST_F(CfgFileTest, BothFilesAreCheckedBeforeEitherIsWritten)
+{
+    writeCfg("a\r\n[WEIGHT_AND_BALANCE]\r\n");
+    ASSERT_TRUE(readcfg(session));
+    session.state.stationweight[0] = 170;
+    session.state.loadweight = 170;
+    const auto filesBefore = allFiles();
+
+    fs::permissions(stations(), fs::perms::owner_write, fs::perm_options::remove);
+    EXPECT_FALSE(writecfg(session));
+    fs::permissions(stations(), fs::perms::owner_write, fs::perm_options::add);
+    fs::rename(stations(), dir.path() / "stations.saved");
+    fs::create_directory(stations());
+    EXPECT_FALSE(writecfg(session));
+    fs::remove(stations());
+    fs::rename(dir.path() / "stations.saved", stations());
+    EXPECT_EQ(allFiles(), filesBefore);
+    EXPECT_EQ(
+        session.messages.take(),
+        (std::vector<std::string>{
+            "Nothing was saved: \"" + stations().string() + "\" is read-only, so it was not changed.",
+            "Nothing was saved: \"" + stations().string() + "\" is a folder, so it cannot be written."}));
+
+    // What no check can foresee: the station file cannot be renamed into place.
+    session.files.failRenamesAfter(1);
+    EXPECT_FALSE(writecfg(session));
+    EXPECT_EQ(TempDir::readFile(cfg()), "a\r\n[WEIGHT_AND_BALANCE]\r\n" + block());
+    EXPECT_EQ(TempDir::readFile(stations()), kStationFile);
+    const auto told = session.messages.take();
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_TRUE(
+        told[0].starts_with("\"" + cfg().string() +
+                            "\" was saved: the simulator now flies the new load. But the station file was "
+                            "not: \"" +
+                            stations().string() + "\" could not be replaced: "))
+        << told[0];
+    EXPECT_TRUE(
+        told[0].ends_with("; the old file was kept. The load Quillet keeps for \"Beech 1900D\" is still "
+                          "the previous one; save again to store the new one."))
+        << told[0];
 }
 
 } // namespace
