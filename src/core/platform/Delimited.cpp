@@ -25,6 +25,9 @@ bool DelimitedReader::atEnd()
 {
     if (m_afterComma)
         return false; // a comma promises one more field, empty if need be
+    // Blank lines at the very end are no fields.
+    if (m_blankLines == BlankLines::AreFields)
+        return m_text.find_first_not_of(" \t\r\n", m_pos) == std::string_view::npos;
     for (;;) {
         skipBlanks();
         if (!atLineEnd())
@@ -46,7 +49,8 @@ std::optional<DelimitedReader::Field> DelimitedReader::next()
         field.quoted = true;
         ++m_pos;
         while (m_pos < m_text.size() && m_text[m_pos] != '"') {
-            if (m_text[m_pos] == '\n' || (m_text[m_pos] == '\r' && (m_pos + 1 >= m_text.size() || m_text[m_pos + 1] != '\n')))
+            if (m_text[m_pos] == '\n' ||
+                (m_text[m_pos] == '\r' && (m_pos + 1 >= m_text.size() || m_text[m_pos + 1] != '\n')))
                 ++m_line;
             field.text += m_text[m_pos++];
         }
@@ -76,6 +80,14 @@ std::optional<DelimitedReader::Field> DelimitedReader::next()
 std::string quotedField(std::string_view text)
 {
     return "\"" + std::string(text) + "\"";
+}
+
+std::string fieldAsNeeded(std::string_view text)
+{
+    const bool needsQuotes = text.find_first_of(",\r\n") != std::string_view::npos || text.starts_with('"') ||
+                             text.starts_with(' ') || text.starts_with('\t') || text.ends_with(' ') ||
+                             text.ends_with('\t');
+    return needsQuotes ? quotedField(text) : std::string(text);
 }
 
 } // namespace quillet

@@ -3,11 +3,16 @@
 #include "AircraftTypes.h"
 #include "Settings.h"
 #include "load/Summary.h"
+#include "platform/Files.h"
 #include "platform/Paths.h"
+
+#include <filesystem>
+#include <optional>
 
 namespace quillet {
 
-Form1::Form1(Session& session, FormRegistry& forms) : m_session(session), m_forms(forms), m_form4(session, *this)
+Form1::Form1(Session& session, FormRegistry& forms)
+    : m_session(session), m_forms(forms), m_form4(session, *this)
 {
     Combo1.onClick = [this] { Combo1_Click(); };
     m_session.currentType = [this] { return Combo1.text(); };
@@ -71,8 +76,9 @@ void Form1::refresh()
             form->mnuload_Click();
             form->runSummary();
         } else {
-            m_session.messages.reportOnce("The \"" + Combo1.text() +
-                                          "\" cannot be loaded yet: this version of Quillet has no load form for it.");
+            m_session.messages.reportOnce(
+                "The \"" + Combo1.text() +
+                "\" cannot be loaded yet: this version of Quillet has no load form for it.");
         }
     }
     const LoadState& state = m_session.state;
@@ -119,15 +125,20 @@ void Form1::loadini(int& count)
     Combo1.clear();
 
     const auto file = findPath(kSettingsFile, m_session.programFolder);
-    const auto bytes = file ? m_session.files.read(*file, kSettingsMaxBytes)
-                            : Result<std::string>(Error{"\"" + std::string(kSettingsFile) + "\" was not found in \"" +
-                                                        displayPath(m_session.programFolder) + "\""});
+    auto bytes =
+        file ? m_session.files.read(*file, kSettingsMaxBytes)
+             : Result<std::string>(Error{"\"" + std::string(kSettingsFile) + "\" was not found in \"" +
+                                         displayPath(m_session.programFolder) + "\""});
+    if (bytes) {
+        if (const auto notText = whyNotText(bytes.value()))
+            bytes = Error{"\"" + displayPath(*file) + "\" " + *notText};
+    }
     Settings settings;
     if (bytes) {
         settings = parseSettings(bytes.value(), kMenuCapacity);
         for (const std::string& problem : settings.problems) {
-            m_session.messages.reportOnce("The settings file \"" + displayPath(*file) + "\" is not complete: " +
-                                          problem + ".");
+            m_session.messages.reportOnce("The settings file \"" + displayPath(*file) +
+                                          "\" is not complete: " + problem + ".");
         }
     } else {
         m_session.messages.reportOnce(
@@ -142,6 +153,17 @@ void Form1::loadini(int& count)
     for (int i = 0; i < count; ++i) {
         state.menutype[i] = settings.entries[static_cast<std::size_t>(i)].type;
         state.menufolder[i] = settings.entries[static_cast<std::size_t>(i)].folder;
+        // A path instead of a folder name would lead the aircraft's files out of the aircraft folder.
+        if (!isSingleName(state.menufolder[i])) {
+            if (!state.menufolder[i].empty()) {
+                m_session.messages.reportOnce("The aircraft folder \"" + state.menufolder[i] + "\" of \"" +
+                                              state.menutype[i] + "\" in \"" + displayPath(*file) +
+                                              "\" is not a single folder name, so \"" + state.menutype[i] +
+                                              "\" is not listed. Give it the name of its folder inside \"" +
+                                              state.simfolder + "\\aircraft\" in the configuration dialog.");
+            }
+            continue;
+        }
         // A flag once set stays set for the run.
         if (fileExists(state.simfolder + "\\aircraft\\" + state.menufolder[i] + "\\aircraft.cfg",
                        m_session.programFolder)) {
@@ -164,10 +186,41 @@ bool Form1::saveini(int count)
     for (int i = 0; i < count && i < kMenuCapacity; ++i)
         entries.push_back({state.menutype[i], state.menufolder[i]});
     const auto path = resolvePath(kSettingsFile, m_session.programFolder);
-    const Status written = m_session.files.replace(path, formatSettings(state.simfolder, entries));
-    if (!written) {
-        m_session.messages.report("The settings were not saved: " + written.error().message);
+    const std::string bytes = formatSettings(state.simfolder, entries);
+    const auto notSaved = [this](const std::string& why) {
+        m_session.messages.report("The settings were not saved: " + why);
         return false;
+    };
+
+    // What the user wrote is never dropped without a copy and a word; and a file that would not change
+    // is not written at all, so a read-only one that is up to date is no trouble.
+    std::string onDisk;
+    std::optional<std::string> notKept;
+    std::error_code ec;
+    if (std::filesystem::exists(path, ec)) {
+        auto read = m_session.files.read(path, kSettingsMaxBytes);
+        if (!read)
+            return notSaved(read.error().message + " It was left as it is.");
+        onDisk = std::move(read).value();
+        if (onDisk == bytes)
+            return true;
+        notKept = settingsNotKept(onDisk, kMenuCapacity);
+    }
+    auto pending = m_session.files.prepare(path, bytes);
+    if (!pending)
+        return notSaved(pending.error().message);
+    const auto backup = path.parent_path() / (std::string(kSettingsFile) + ".bak");
+    if (notKept) {
+        if (auto kept = m_session.files.replace(backup, onDisk); !kept)
+            return notSaved("\"" + displayPath(path) + "\" " + *notKept +
+                            ", and no copy of it could be made: " + kept.error().message);
+    }
+    if (auto renamed = m_session.files.commit(pending.value()); !renamed)
+        return notSaved(renamed.error().message);
+    if (notKept) {
+        m_session.messages.report("The settings file \"" + displayPath(path) + "\" " + *notKept +
+                                  ". The file as it was is kept as \"" + displayPath(backup) + "\", and \"" +
+                                  displayPath(path) + "\" now holds the settings as Quillet reads them.");
     }
     return true;
 }

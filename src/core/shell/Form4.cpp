@@ -78,7 +78,9 @@ void Form4::Combo1_Click()
 
 void Form4::invalid_dir_Change()
 {
+    // Only a folder of the aircraft folder may be taken, not a path leading elsewhere.
     Command1_visible =
+        isSingleName(invalid_dir.text()) &&
         fileExists(m_session.state.simfolder + "\\aircraft\\" + invalid_dir.text() + "\\aircraft.cfg",
                    m_session.programFolder);
 }

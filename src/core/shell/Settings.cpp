@@ -1,6 +1,7 @@
 #include "Settings.h"
 
 #include "platform/Delimited.h"
+#include "platform/Files.h"
 #include "platform/Format.h"
 
 #include <cmath>
@@ -10,7 +11,7 @@ namespace quillet {
 Settings parseSettings(std::string_view bytes, std::size_t capacity)
 {
     Settings settings;
-    DelimitedReader reader(bytes);
+    DelimitedReader reader(bytes, DelimitedReader::BlankLines::AreFields);
     if (auto folder = reader.next())
         settings.simfolder = folder->text;
     else
@@ -28,7 +29,8 @@ Settings parseSettings(std::string_view bytes, std::size_t capacity)
         auto type = reader.next();
         auto folder = type ? reader.next() : std::nullopt;
         if (!folder) {
-            settings.problems.push_back("it announces " + std::to_string(wanted) + " aircraft but ends after " +
+            settings.problems.push_back("it announces " + std::to_string(wanted) +
+                                        " aircraft but ends after " +
                                         std::to_string(settings.entries.size()));
             return settings;
         }
@@ -44,11 +46,29 @@ Settings parseSettings(std::string_view bytes, std::size_t capacity)
 
 std::string formatSettings(std::string_view simfolder, const std::vector<MenuEntry>& entries)
 {
-    std::string out(simfolder);
+    std::string out = fieldAsNeeded(simfolder);
     out += "\r\n" + format0(static_cast<double>(entries.size())) + "\r\n";
     for (const MenuEntry& entry : entries)
-        out += entry.type + "," + entry.folder + "\r\n";
+        out += fieldAsNeeded(entry.type) + "," + fieldAsNeeded(entry.folder) + "\r\n";
     return out;
+}
+
+std::optional<std::string> settingsNotKept(std::string_view bytes, std::size_t capacity)
+{
+    if (auto notText = whyNotText(bytes))
+        return notText;
+    const Settings settings = parseSettings(bytes, capacity);
+    const std::string written = formatSettings(settings.simfolder, settings.entries);
+    DelimitedReader before(bytes, DelimitedReader::BlankLines::AreFields);
+    DelimitedReader after(written, DelimitedReader::BlankLines::AreFields);
+    while (auto field = before.next()) {
+        const auto kept = after.next();
+        if (!kept || kept->text != field->text) {
+            return "holds \"" + field->text + "\" on line " + std::to_string(field->line) +
+                   ", which Quillet cannot keep as it stands";
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace quillet

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,10 +27,17 @@ struct Settings {
 };
 
 // Reads the file's bytes field by field: line 1 the simulator folder, line 2 the number of entries,
-// then the type string and folder of each entry. At most `capacity` entries are taken.
+// then the type string and folder of each entry. A blank line is an empty field. At most `capacity`
+// entries are taken.
 Settings parseSettings(std::string_view bytes, std::size_t capacity);
 
-// The file's bytes, lines ended by CR LF, nothing quoted.
+// The file's bytes, lines ended by CR LF; a text is quoted only when it could not be read back
+// otherwise (a folder holding a comma).
 std::string formatSettings(std::string_view simfolder, const std::vector<MenuEntry>& entries);
+
+// What of the file's bytes would be lost if the settings read from them were written back, as a
+// predicate of the file ("holds \"abc\" on line 2, ..."); nothing when every field would be kept.
+// Blanks around fields, quotes that are not needed and the kind of line end are not content.
+std::optional<std::string> settingsNotKept(std::string_view bytes, std::size_t capacity);
 
 } // namespace quillet

@@ -152,17 +152,33 @@ TEST_F(ConfigDialog, AMissingSettingsFileIsCreatedWhenTheDialogCloses)
     EXPECT_EQ(dir.ini(), "C:\\program files\\microsoft games\\fs2000\r\n0\r\n");
 }
 
-TEST_F(ConfigDialog, ASettingsFileThatCannotBeWrittenIsReported)
+TEST_F(ConfigDialog, ASettingsFileThatCannotBeWrittenIsReportedOnlyWhenItNeedsAChange)
 {
+    const auto readOnly = [&] {
+        fs::permissions(dir.path() / "quillet.ini", fs::perms::owner_write, fs::perm_options::remove);
+    };
     dir.makeSimulator("FS2000.EXE");
     dir.writeIni("nowhere", {});
+    readOnly();
     form1.Form_Load();
     session.messages.take();
-    fs::create_directory(dir.path() / "quillet.ini.quillet-new"); // the temporary cannot be made
     form1.form4().simdir.setText(dir.sim());
     ASSERT_EQ(session.messages.pending().size(), 1u);
-    EXPECT_NE(session.messages.pending()[0].find("The settings were not saved"), std::string::npos);
+    EXPECT_EQ(session.messages.take()[0], "The settings were not saved: \"" +
+                                              (dir.path() / "quillet.ini").string() +
+                                              "\" is read-only, so it was not changed.");
     EXPECT_EQ(dir.ini(), "nowhere\r\n0\r\n");
+
+    // Up to date, it is not written at all: starting again says nothing.
+    fs::remove(dir.path() / "quillet.ini");
+    dir.writeIni(dir.sim(), {});
+    readOnly();
+    Session again{prompt, random, clock, dir.path()};
+    Form1 main{again, forms};
+    main.Form_Load();
+    EXPECT_TRUE(main.form4().Check2);
+    EXPECT_TRUE(again.messages.pending().empty()) << again.messages.pending()[0];
+    EXPECT_EQ(dir.ini(), dir.sim() + "\r\n0\r\n");
 }
 
 } // namespace

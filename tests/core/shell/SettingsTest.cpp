@@ -27,7 +27,8 @@ TEST(SettingsFile, WriteAndReadBackThreeEntries)
 
 TEST(SettingsFile, ClassicFieldReading)
 {
-    const Settings read = parseSettings("  D:\\FS2000  \n2\n\"Beech 1900D\",\"beech, the fast one\"\nB737-300 ,  b737\n", 21);
+    const Settings read =
+        parseSettings("  D:\\FS2000  \n2\n\"Beech 1900D\",\"beech, the fast one\"\nB737-300 ,  b737\n", 21);
     EXPECT_EQ(read.simfolder, "D:\\FS2000");
     ASSERT_EQ(read.entries.size(), 2u);
     EXPECT_EQ(read.entries[0].folder, "beech, the fast one");
@@ -61,6 +62,23 @@ TEST(SettingsFile, TakesWhatFitsAndSaysWhatDidNot)
     EXPECT_FALSE(parseSettings("", 21).problems.empty());
 }
 
+TEST(SettingsFile, ABlankLineIsAnEmptyField)
+{
+    const Settings read = parseSettings("\r\n1\r\nB737-300,b737\r\n\r\n\r\n", 21);
+    EXPECT_EQ(read.simfolder, "");
+    ASSERT_EQ(read.entries.size(), 1u);
+    EXPECT_EQ(read.entries[0].type, "B737-300");
+    EXPECT_EQ(read.entries[0].folder, "b737");
+    EXPECT_TRUE(read.problems.empty()) << "blank lines at the end are no fields";
+}
+
+TEST(SettingsFile, OnlyTextsThatNeedQuotesGetThem)
+{
+    EXPECT_EQ(
+        formatSettings("D:\\Games, old\\fs2000", {{"B737-300", "b737, old"}, {"Beech 1900D", " beech"}}),
+        "\"D:\\Games, old\\fs2000\"\r\n2\r\nB737-300,\"b737, old\"\r\nBeech 1900D,\" beech\"\r\n");
+}
+
 using StartUp = ShellFixture;
 
 TEST_F(StartUp, ListsOnlyEntriesWhoseFolderHoldsAircraftCfgInAnyCase)
@@ -69,7 +87,8 @@ TEST_F(StartUp, ListsOnlyEntriesWhoseFolderHoldsAircraftCfgInAnyCase)
     dir.makeAircraft("b737_300", "AIRCRAFT.CFG");
     dir.makeAircraft("beech");
     dir.write("sim/aircraft/empty/readme.txt", "no cfg here");
-    dir.writeIni(dir.sim(), {"B737-300,b737_300", "DHC-8-300,empty", "Beech 1900D,beech", "MD-90-30,missing"});
+    dir.writeIni(dir.sim(),
+                 {"B737-300,b737_300", "DHC-8-300,empty", "Beech 1900D,beech", "MD-90-30,missing"});
 
     form1.Form_Load();
     EXPECT_EQ(form1.Combo1.items(), (std::vector<std::string>{"B737-300", "Beech 1900D"}));
@@ -134,6 +153,122 @@ TEST_F(StartUp, AllFoldersInvalidListsEverythingAsAvailable)
     EXPECT_EQ(form1.form4().Combo2.items(), (std::vector<std::string>{"B737-300", "Beech 1900D"}));
     EXPECT_TRUE(form1.form4().Check2);
     EXPECT_FALSE(form1.form4().visible) << "the simulator folder is confirmed";
+}
+
+TEST_F(StartUp, WhatTheSettingsFileHoldsIsNeverDroppedWithoutACopyAndAWord)
+{
+    dir.makeSimulator("FS2000.EXE");
+    dir.makeAircraft("b737_300");
+    const std::string sim = dir.sim();
+    std::string many = sim + "\r\n22\r\n";
+    std::string first21 = sim + "\r\n21\r\n";
+    for (int i = 0; i < 22; ++i) {
+        many += "T" + std::to_string(i) + ",f" + std::to_string(i) + "\r\n";
+        if (i < 21)
+            first21 += "T" + std::to_string(i) + ",f" + std::to_string(i) + "\r\n";
+    }
+    struct Case {
+        const char* what;
+        std::string before, after;
+        std::string lost;
+    };
+    const Case cases[] = {
+        {"not a number", sim + "\r\nabc\r\nB737-300,b737_300\r\n", sim + "\r\n0\r\n",
+         "holds \"abc\" on line 2"},
+        {"negative", sim + "\r\n-2\r\nB737-300,b737_300\r\n", sim + "\r\n0\r\n", "holds \"-2\" on line 2"},
+        {"a fraction", sim + "\r\n1.5\r\nB737-300,b737_300\r\nB757-200,b757\r\n",
+         sim + "\r\n1\r\nB737-300,b737_300\r\n", "holds \"1.5\" on line 2"},
+        {"a 22nd entry", many, first21, "holds \"22\" on line 2"},
+    };
+    const std::string ini = (dir.path() / "quillet.ini").string();
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        std::filesystem::remove(dir.path() / "quillet.ini.bak");
+        dir.write("quillet.ini", c.before);
+        Session run{prompt, random, clock, dir.path()};
+        Form1 main{run, forms};
+        main.Form_Load(); // the dialog's folder check stores the settings
+        EXPECT_EQ(dir.ini(), c.after);
+        EXPECT_EQ(dir.read("quillet.ini.bak"), c.before);
+        const auto aboutTheCopy = [](Session& session) {
+            std::vector<std::string> found;
+            for (const auto& message : session.messages.take()) {
+                if (message.find("quillet.ini.bak") != std::string::npos)
+                    found.push_back(message);
+            }
+            return found;
+        };
+        EXPECT_EQ(aboutTheCopy(run),
+                  std::vector<std::string>{"The settings file \"" + ini + "\" " + c.lost +
+                                           ", which Quillet cannot keep as it stands. The file as it "
+                                           "was is kept as \"" +
+                                           ini + ".bak\", and \"" + ini +
+                                           "\" now holds the settings as Quillet reads them."});
+
+        // Said once: the next start finds nothing to drop.
+        Session next{prompt, random, clock, dir.path()};
+        Form1 again{next, forms};
+        again.Form_Load();
+        EXPECT_TRUE(aboutTheCopy(next).empty());
+        EXPECT_EQ(dir.read("quillet.ini.bak"), c.before);
+    }
+}
+
+TEST_F(StartUp, AHandQuotedFolderHoldingACommaIsKept)
+{
+    dir.makeSimulator("FS2000.EXE");
+    dir.makeAircraft("b737, old");
+    dir.write("quillet.ini", dir.sim() + "\n1\n\"B737-300\" , \"b737, old\"\n");
+    form1.Form_Load();
+    EXPECT_EQ(form1.Combo1.items(), std::vector<std::string>{"B737-300"});
+    EXPECT_EQ(dir.ini(), dir.sim() + "\r\n1\r\nB737-300,\"b737, old\"\r\n");
+    EXPECT_FALSE(std::filesystem::exists(dir.path() / "quillet.ini.bak")) << "nothing was lost";
+    EXPECT_TRUE(told("quillet.ini").empty());
+}
+
+TEST_F(StartUp, ALinkPlantedBesideTheSettingsFileIsNotWrittenThrough)
+{
+    dir.makeSimulator("FS2000.EXE");
+    dir.writeIni(dir.sim(), {"B737-300,b737_300"});
+    const auto victim = dir.write("victim.txt", "not yours");
+    std::filesystem::create_symlink(victim, dir.path() / "quillet.ini.quillet-new");
+    dir.write("quillet.ini", dir.sim() + "\n1\nB737-300,b737_300\n"); // LF: the store rewrites it
+    form1.Form_Load();
+    EXPECT_EQ(TempDir::readFile(victim), "not yours");
+    EXPECT_FALSE(std::filesystem::is_symlink(dir.path() / "quillet.ini"));
+    EXPECT_EQ(dir.ini(), dir.sim() + "\r\n1\r\nB737-300,b737_300\r\n");
+}
+
+TEST_F(StartUp, AFolderNameThatIsAPathIsNotListedAndNamedOnce)
+{
+    dir.makeSimulator("FS2000.EXE");
+    dir.makeAircraft("b737_300");
+    dir.write("outside/aircraft.cfg", "[WEIGHT_AND_BALANCE]\r\n");
+    const std::string absolute = (dir.path() / "outside").string();
+    dir.writeIni(dir.sim(), {"B737-300,b737_300", "DHC-8-300,..\\..\\outside", "MD-90-30,../../outside",
+                             "B757-200," + absolute, "Beech 1900D,"});
+    form1.Form_Load();
+    form1.mnuconfigair_Click(); // reads the file again
+    EXPECT_EQ(form1.Combo1.items(), std::vector<std::string>{"B737-300"});
+    const std::string ini = (dir.path() / "quillet.ini").string();
+    const auto named = [&](const std::string& folder, const std::string& type) {
+        return "The aircraft folder \"" + folder + "\" of \"" + type + "\" in \"" + ini +
+               "\" is not a single folder name, so \"" + type +
+               "\" is not listed. Give it the name of its folder "
+               "inside \"" +
+               dir.sim() + "\\aircraft\" in the configuration dialog.";
+    };
+    EXPECT_EQ(told("is not a single folder name"),
+              (std::vector<std::string>{named("..\\..\\outside", "DHC-8-300"),
+                                        named("../../outside", "MD-90-30"), named(absolute, "B757-200")}));
+
+    // Nor can the dialog take such a name.
+    Form4& dialog = form1.form4();
+    dialog.Combo2.setListIndex(0);
+    dialog.invalid_dir.setText("..\\..\\outside");
+    EXPECT_FALSE(dialog.Command1_visible);
+    dialog.invalid_dir.setText("b737_300");
+    EXPECT_TRUE(dialog.Command1_visible);
 }
 
 } // namespace
