@@ -79,7 +79,7 @@ bool closeFile(int fd)
 }
 
 // Windows keeps only the read-only attribute, which a file we may replace does not have.
-void copyPermissions(int, const fs::path&, fs::perms) {}
+void copyPermissions(int, fs::perms) {}
 
 // NTFS journals the rename itself; a folder cannot be opened for flushing.
 void syncFolder(const fs::path&) {}
@@ -108,7 +108,7 @@ bool closeFile(int fd)
     return ::close(fd) == 0;
 }
 
-void copyPermissions(int fd, const fs::path&, fs::perms perms)
+void copyPermissions(int fd, fs::perms perms)
 {
     (void)::fchmod(fd, static_cast<mode_t>(perms & fs::perms::mask));
 }
@@ -270,17 +270,13 @@ Result<PendingFile> Files::prepare(const fs::path& path, std::string_view bytes)
         toWrite = bytes.substr(0, static_cast<std::size_t>(*m_failAfter));
     bool ok = writeAll(fd, toWrite) && !full;
     if (exists)
-        copyPermissions(fd, pending.m_temp, status.permissions());
+        copyPermissions(fd, status.permissions());
     ok = syncFile(fd) && ok;
     ok = closeFile(fd) && ok;
     if (!ok) {
         return failure(path, std::string("could not be written completely (is the disk full?)") +
                                  (exists ? "; the old file was kept" : ""));
     }
-#ifdef _WIN32
-    if (exists)
-        fs::permissions(pending.m_temp, status.permissions(), ec);
-#endif
     return pending;
 }
 

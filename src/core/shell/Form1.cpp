@@ -128,10 +128,10 @@ void Form1::loadini(int& count)
     auto bytes =
         file ? m_session.files.read(*file, kSettingsMaxBytes)
              : Result<std::string>(Error{"\"" + std::string(kSettingsFile) + "\" was not found in \"" +
-                                         displayPath(m_session.programFolder) + "\""});
+                                         displayPath(m_session.programFolder) + "\"."});
     if (bytes) {
         if (const auto notText = whyNotText(bytes.value()))
-            bytes = Error{"\"" + displayPath(*file) + "\" " + *notText};
+            bytes = Error{"\"" + displayPath(*file) + "\" " + *notText + "."};
     }
     Settings settings;
     if (bytes) {
@@ -143,7 +143,7 @@ void Form1::loadini(int& count)
     } else {
         m_session.messages.reportOnce(
             "The settings could not be read: " + bytes.error().message +
-            ". Quillet starts with no aircraft and the simulator folder \"" + std::string(kDefaultSimFolder) +
+            " Quillet starts with no aircraft and the simulator folder \"" + std::string(kDefaultSimFolder) +
             "\"; set them in the configuration dialog, which saves them when it is closed.");
         settings.simfolder = std::string(kDefaultSimFolder);
     }

@@ -214,6 +214,28 @@ TEST_F(StartUp, WhatTheSettingsFileHoldsIsNeverDroppedWithoutACopyAndAWord)
     }
 }
 
+TEST_F(StartUp, ASettingsFileThatIsNotTextStartsEmptyAndIsKeptAsACopy)
+{
+    const std::string utf16("\xFF\xFE"
+                            "C\0:\0\r\0\n\0"
+                            "0\0\r\0\n\0",
+                            14);
+    dir.write("quillet.ini", utf16);
+    form1.Form_Load();
+    const std::string ini = (dir.path() / "quillet.ini").string();
+    EXPECT_EQ(
+        session.messages.take(),
+        std::vector<std::string>{
+            "The settings could not be read: \"" + ini +
+            "\" is saved as UTF-16 (Unicode) text, which Quillet cannot read; save it again as ANSI text. "
+            "Quillet starts with no aircraft and the simulator folder \"C:\\program files\\microsoft "
+            "games\\fs2000\"; set them in the configuration dialog, which saves them when it is closed."});
+    form1.form4Window().close();
+    EXPECT_EQ(dir.ini(), "C:\\program files\\microsoft games\\fs2000\r\n0\r\n");
+    EXPECT_EQ(dir.read("quillet.ini.bak"), utf16);
+    EXPECT_EQ(told("quillet.ini.bak").size(), 1u);
+}
+
 TEST_F(StartUp, AHandQuotedFolderHoldingACommaIsKept)
 {
     dir.makeSimulator("FS2000.EXE");
