@@ -10,8 +10,6 @@
 
 namespace quillet {
 
-class Files;
-
 // A new file's bytes, written to a temporary file beside it and flushed to the disk, waiting to be
 // renamed into place by `Files::commit`. Dropped without a commit, the temporary file is removed and
 // the target never changed.
@@ -23,8 +21,6 @@ public:
     PendingFile(const PendingFile&) = delete;
     PendingFile& operator=(const PendingFile&) = delete;
     ~PendingFile();
-
-    const std::filesystem::path& target() const { return m_target; }
 
 private:
     friend class Files;
@@ -72,7 +68,7 @@ private:
 };
 
 // A fresh name for a temporary file beside `path`: hidden where the platform hides dot files, and
-// ending in ".quillet-new" so that one left behind by a crash is recognised.
+// ending in ".quillet-new" so that one left behind by a crash says where it came from.
 std::filesystem::path temporaryFor(const std::filesystem::path& path);
 
 // Why bytes cannot be one of our text files, as a predicate of the file ("is not a text file: ..."),

@@ -72,19 +72,6 @@ TEST(Files, AFailedWriteKeepsTheOldFileWhole)
     EXPECT_EQ(namesIn(dir.path()), std::set<std::string>{"aircraft.cfg"});
 }
 
-TEST(Files, ALinkPlantedWhereTheTemporaryFileUsedToBeIsNeverWrittenThrough)
-{
-    TempDir dir;
-    const auto outside = dir.write("elsewhere/victim.txt", "not yours");
-    const auto file = dir.write("sim/aircraft.cfg", "old");
-    fs::create_symlink(outside, dir.path() / "sim/aircraft.cfg.quillet-new");
-    ASSERT_TRUE(Files().replace(file, "new"));
-    EXPECT_EQ(TempDir::readFile(outside), "not yours");
-    EXPECT_FALSE(fs::is_symlink(file));
-    EXPECT_EQ(TempDir::readFile(file), "new");
-    EXPECT_TRUE(fs::is_symlink(dir.path() / "sim/aircraft.cfg.quillet-new"));
-}
-
 TEST(Files, PreparedFilesChangeNothingUntilCommitted)
 {
     TempDir dir;
@@ -112,47 +99,6 @@ TEST(Files, PreparedFilesChangeNothingUntilCommitted)
     EXPECT_TRUE(renamed.error().message.ends_with("; the old file was kept."));
     EXPECT_EQ(TempDir::readFile(second), "old 2");
     EXPECT_EQ(namesIn(dir.path()), (std::set<std::string>{"aircraft.cfg", "station.cfg"}));
-}
-
-TEST(Files, CreateIfAbsentWritesOnceAndOnlyAsAPlainFile)
-{
-    TempDir dir;
-    const auto backup = dir.path() / "aircraft.cfg.bak";
-    Files files;
-    files.failWritesAfter(3);
-    auto full = files.createIfAbsent(backup, "original");
-    ASSERT_FALSE(full);
-    EXPECT_NE(full.error().message.find("is the disk full?"), std::string::npos);
-    EXPECT_TRUE(namesIn(dir.path()).empty()) << "no backup, whole or not, and no temporary file";
-
-    files.failWritesAfter(std::nullopt);
-    ASSERT_TRUE(files.createIfAbsent(backup, "original"));
-    ASSERT_TRUE(files.createIfAbsent(backup, "changed"));
-    EXPECT_EQ(TempDir::readFile(backup), "original");
-
-    const auto folder = dir.path() / "folder.bak";
-    fs::create_directory(folder);
-    auto isFolder = files.createIfAbsent(folder, "x");
-    ASSERT_FALSE(isFolder);
-    EXPECT_EQ(isFolder.error().message, "\"" + folder.string() + "\" is a folder, not a file.");
-
-    const auto dangling = dir.path() / "dangling.bak";
-    const auto nowhere = dir.path() / "elsewhere" / "nothing";
-    fs::create_symlink(nowhere, dangling);
-    auto isLink = files.createIfAbsent(dangling, "x");
-    ASSERT_FALSE(isLink);
-    EXPECT_EQ(isLink.error().message, "\"" + dangling.string() + "\" is a link to \"" + nowhere.string() +
-                                          "\", which does not exist.");
-    EXPECT_FALSE(fs::exists(nowhere.parent_path()));
-}
-
-TEST(Files, TextFilesHoldNoNulBytes)
-{
-    EXPECT_EQ(whyNotText("[fltsim.0]\r\ntitle=\xE9t\xE9\r\n"), std::nullopt);
-    EXPECT_EQ(whyNotText(std::string("a\r\nb\nc\rd\0", 9)),
-              "is not a text file: it holds a NUL byte on line 4");
-    EXPECT_EQ(whyNotText(std::string("\xFF\xFE[\0f\0", 6)),
-              "is saved as UTF-16 (Unicode) text, which Quillet cannot read; save it again as ANSI text");
 }
 
 TEST(Files, ReadOnlyFilesAreNotReplaced)
