@@ -220,7 +220,8 @@ bool Form1::saveini(int count)
     if (notKept) {
         m_session.messages.report("The settings file \"" + displayPath(path) + "\" " + *notKept +
                                   ". The file as it was is kept as \"" + displayPath(backup) + "\", and \"" +
-                                  displayPath(path) + "\" now holds the settings as Quillet reads them.");
+                                  displayPath(path) + "\" now holds the simulator folder and the " +
+                                  std::to_string(entries.size()) + " aircraft of Quillet's menu.");
     }
     return true;
 }

@@ -171,14 +171,15 @@ TEST_F(StartUp, WhatTheSettingsFileHoldsIsNeverDroppedWithoutACopyAndAWord)
         const char* what;
         std::string before, after;
         std::string lost;
+        int menu; // aircraft in the menu afterwards
     };
     const Case cases[] = {
         {"not a number", sim + "\r\nabc\r\nB737-300,b737_300\r\n", sim + "\r\n0\r\n",
-         "holds \"abc\" on line 2"},
-        {"negative", sim + "\r\n-2\r\nB737-300,b737_300\r\n", sim + "\r\n0\r\n", "holds \"-2\" on line 2"},
+         "holds \"abc\" on line 2", 0},
+        {"negative", sim + "\r\n-2\r\nB737-300,b737_300\r\n", sim + "\r\n0\r\n", "holds \"-2\" on line 2", 0},
         {"a fraction", sim + "\r\n1.5\r\nB737-300,b737_300\r\nB757-200,b757\r\n",
-         sim + "\r\n1\r\nB737-300,b737_300\r\n", "holds \"1.5\" on line 2"},
-        {"a 22nd entry", many, first21, "holds \"22\" on line 2"},
+         sim + "\r\n1\r\nB737-300,b737_300\r\n", "holds \"1.5\" on line 2", 1},
+        {"a 22nd entry", many, first21, "holds \"22\" on line 2", 21},
     };
     const std::string ini = (dir.path() / "quillet.ini").string();
     for (const Case& c : cases) {
@@ -203,7 +204,8 @@ TEST_F(StartUp, WhatTheSettingsFileHoldsIsNeverDroppedWithoutACopyAndAWord)
                                            ", which Quillet cannot keep as it stands. The file as it "
                                            "was is kept as \"" +
                                            ini + ".bak\", and \"" + ini +
-                                           "\" now holds the settings as Quillet reads them."});
+                                           "\" now holds the simulator folder and the " +
+                                           std::to_string(c.menu) + " aircraft of Quillet's menu."});
 
         // Said once: the next start finds nothing to drop.
         Session next{prompt, random, clock, dir.path()};
