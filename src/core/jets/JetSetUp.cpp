@@ -6,6 +6,15 @@
 
 namespace quillet {
 
+void setLimits(LoadState& state, const JetLimits& limits)
+{
+    state.maxtakeoff = limits.maxtakeoff;
+    state.maxlanding = limits.maxlanding;
+    state.emptyweight = limits.emptyweight;
+    state.maxfuel = limits.maxfuel;
+    state.maxzerofuel = limits.maxzerofuel;
+}
+
 void setCounts(LoadState& state, const JetCounts& counts)
 {
     state.maxpax = counts.maxpax;

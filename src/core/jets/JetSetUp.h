@@ -20,6 +20,17 @@ struct JetCounts {
     int ncrew = 0;
 };
 
+// The limits a jet set-up writes, in lb.
+struct JetLimits {
+    float maxtakeoff = 0;
+    float maxlanding = 0;
+    float emptyweight = 0;
+    float maxfuel = 0;
+    float maxzerofuel = 0;
+};
+
+void setLimits(LoadState& state, const JetLimits& limits);
+
 // Writes the counts and starts the load at 0.
 void setCounts(LoadState& state, const JetCounts& counts);
 

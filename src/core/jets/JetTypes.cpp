@@ -18,6 +18,14 @@ const std::array kJetTypes{
             data737::seats,
             data737::lowerDeck,
             2},
+    JetType{"B737-200ADV",
+            "data737",
+            data737::setUpB737_200ADV,
+            {68, 8, 21, 21},
+            data737::mainDeck,
+            data737::seats,
+            data737::lowerDeck,
+            2},
 };
 
 } // namespace

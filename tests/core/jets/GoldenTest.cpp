@@ -28,5 +28,10 @@ TEST(JetGoldenStationFiles, B737_300)
     expectFirstStationFile("B737-300");
 }
 
+TEST(JetGoldenStationFiles, B737_200ADV)
+{
+    expectFirstStationFile("B737-200ADV");
+}
+
 } // namespace
 } // namespace quillet

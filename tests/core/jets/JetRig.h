@@ -7,6 +7,7 @@
 #include "platform/Random.h"
 #include "platform/RecordingCanvas.h"
 
+#include <cctype>
 #include <memory>
 #include <numeric>
 #include <string>
@@ -22,15 +23,19 @@ public:
     {
         LoadState& state = session.state;
         state.simfolder = dir.sim();
-        const char* entries[][2] = {{"B737-300", "b737_300"}, {"B767-300ER", "b767_300er"}};
-        for (const auto& [type, folder] : entries) {
+        // Every jet type with data, in a folder named after it ("B737-300" in "b737_300").
+        for (const JetType& jet : jetTypes()) {
+            const std::string type(jet.type);
+            std::string folder = type;
+            for (char& c : folder)
+                c = c == '-' ? '_' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
             state.menutype[state.nmenu] = type;
             state.menufolder[state.nmenu] = folder;
             ++state.nmenu;
             dir.makeAircraft(
                 folder, "aircraft.cfg",
                 "[fltsim.0]\r\ntitle=Test\r\n\r\n[WEIGHT_AND_BALANCE]\r\nmax_number_of_stations = 0\r\n");
-            dir.write(std::string(type) + ".gif", "GIF89a");
+            dir.write(type + ".gif", "GIF89a");
         }
         session.currentType = [this] { return currentType; };
         session.refreshMain = [this] { ++mainRefreshes; };
