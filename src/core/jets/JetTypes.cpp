@@ -1,5 +1,6 @@
 #include "JetType.h"
 #include "data737.h"
+#include "data757.h"
 
 #include <algorithm>
 #include <array>
@@ -10,6 +11,22 @@ namespace {
 
 // In the order the jet form tries the type strings; origins in feet.
 const std::array kJetTypes{
+    JetType{"B757-200",
+            "data757",
+            data757::setUpB757_200,
+            {85, 10, 24, 27},
+            data757::mainDeck,
+            data757::seats,
+            data757::lowerDeck,
+            std::nullopt},
+    JetType{"B757-200F",
+            "data757",
+            data757::setUpB757_200F,
+            {85, 10, 24, 27},
+            data757::mainDeck,
+            data757::containers,
+            data757::lowerDeck,
+            std::nullopt},
     JetType{"B737-300",
             "data737",
             data737::setUpB737_300,

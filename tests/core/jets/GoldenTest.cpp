@@ -33,5 +33,15 @@ TEST(JetGoldenStationFiles, B737_200ADV)
     expectFirstStationFile("B737-200ADV");
 }
 
+TEST(JetGoldenStationFiles, B757_200)
+{
+    expectFirstStationFile("B757-200");
+}
+
+TEST(JetGoldenStationFiles, B757_200F)
+{
+    expectFirstStationFile("B757-200F");
+}
+
 } // namespace
 } // namespace quillet

@@ -22,7 +22,7 @@ protected:
         dir.makeSimulator();
         dir.makeAircraft("b737", "aircraft.cfg",
                          "[fltsim.0]\r\ntitle=737\r\n\r\n[WEIGHT_AND_BALANCE]\r\nempty_weight = 69953\r\n");
-        dir.writeIni(dir.sim(), {"B737-300,b737", "B757-200,b737"});
+        dir.writeIni(dir.sim(), {"B737-300,b737"});
         dir.write("B737-300.gif",
                   TempDir::readFile(std::filesystem::path(QUILLET_PICTURES) / "B737-300.gif"));
     }
@@ -111,19 +111,6 @@ TEST_F(JetWindowGui, LoadedHoldsAreHatchedInsideTheirOutlineOnly)
     QTest::mouseMove(decks, QPoint(240, 100));
     QApplication::processEvents();
     EXPECT_TRUE(colours(200, 83, 270, 112).count(kRedPixel));
-}
-
-TEST_F(JetWindowGui, TypesWithoutDataStillSayTheyCannotBeLoaded)
-{
-    start();
-    QComboBox* list = find<QComboBox>(main(), "Combo1");
-    list->setCurrentIndex(1);
-    emit list->activated(1);
-    QApplication::processEvents();
-    ASSERT_FALSE(told.empty());
-    EXPECT_NE(told.back().find("\"B757-200\" cannot be loaded yet"), std::string::npos) << told.back();
-    QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
-    EXPECT_EQ(jetWindow(), nullptr);
 }
 
 } // namespace
