@@ -1,4 +1,5 @@
 #include "JetType.h"
+#include "data727.h"
 #include "data737.h"
 #include "data757.h"
 
@@ -34,6 +35,14 @@ const std::array kJetTypes{
             data737::mainDeck,
             data737::seats,
             data737::lowerDeck,
+            2},
+    JetType{"B727-212ADV",
+            "data727",
+            data727::setUpB727_212ADV,
+            {76.5, 8, 21, 21},
+            data727::mainDeck,
+            data727::seats,
+            data727::lowerDeck,
             2},
     JetType{"B737-200ADV",
             "data737",

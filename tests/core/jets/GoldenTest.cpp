@@ -43,5 +43,10 @@ TEST(JetGoldenStationFiles, B757_200F)
     expectFirstStationFile("B757-200F");
 }
 
+TEST(JetGoldenStationFiles, B727_212ADV)
+{
+    expectFirstStationFile("B727-212ADV");
+}
+
 } // namespace
 } // namespace quillet
