@@ -81,5 +81,12 @@ void BM_PointerOverB737_300(benchmark::State& run)
 }
 BENCHMARK(BM_PointerOverB737_300)->Unit(benchmark::kMicrosecond);
 
+// The largest narrow-body cabin: 194 persons.
+void BM_PointerOverB757_200(benchmark::State& run)
+{
+    pointerMove(run, "B757-200");
+}
+BENCHMARK(BM_PointerOverB757_200)->Unit(benchmark::kMicrosecond);
+
 } // namespace
 } // namespace quillet

@@ -1,0 +1,145 @@
+#include "GuiFixture.h"
+#include "jets/Boeing.h"
+#include "platform/QtCanvas.h"
+#include "shell/LoadFormWindow.h"
+
+#include <QPushButton>
+#include <QTest>
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+namespace quillet {
+namespace {
+
+constexpr QRgb kGreenPixel = 0x00FF00;
+constexpr QRgb kRedPixel = 0xFF0000;
+constexpr double kHoldHalfWidth = 4;
+
+// A stretch of a deck in feet: from x forward to x aft, y within half a width of the centre line.
+struct FeetRect {
+    double forward;
+    double aft;
+    double halfWidth = kHoldHalfWidth;
+};
+
+// Where a type's decks are drawn: the main-deck origin, the lower deck's centre line, twips per foot.
+struct Origins {
+    double x0, y0, lowerOrigin, scale;
+};
+
+// One type's published geometry: its fuselage, its two holds, and the x of a point on the cabin's
+// centre line clear of seats, containers and fittings.
+struct DeckCase {
+    const char* type;
+    const char* countLine;
+    Origins at;
+    FeetRect fuselage;
+    FeetRect forwardHold;
+    FeetRect aftHold;
+    double cabinX = 0;
+};
+
+const DeckCase kCases[] = {
+    {"B737-200ADV", "Passengers  0 / 108", {68, 8, 21, 70}, {43.435, -39.683, 5.9}, {23.5, 9}, {-10, -31}},
+    {"B757-200", "Passengers  0 / 184", {85, 10, 24, 60}, {77.19, -68.175, 5.85}, {62, 18}, {-18, -56}},
+    {"B757-200F", "Containers  0 / 15", {85, 10, 24, 60}, {77.19, -68.175, 5.85}, {62, 18}, {-18, -56}, 60},
+    {"B727-212ADV", "Passengers  0 / 147", {76.5, 8, 21, 70}, {60.075, -48.735, 5.8}, {31, 11}, {-10, -35}},
+};
+
+class JetDecksGui : public GuiFixture {
+protected:
+    QRect pixels(const DeckCase& deck, const FeetRect& area, double originY) const
+    {
+        const auto px = [&](double feet) { return static_cast<int>(std::lround(feet * deck.at.scale / 15)); };
+        return QRect(QPoint(px(deck.at.x0 - area.forward), px(originY - area.halfWidth)),
+                     QPoint(px(deck.at.x0 - area.aft), px(originY + area.halfWidth)));
+    }
+
+    const QImage& image() const
+    {
+        return dynamic_cast<QtCanvas&>(static_cast<Boeing&>(*app->forms().existing("Boeing")).Picture1())
+            .image();
+    }
+
+    // The pixels of one colour inside a rectangle, or outside all of the rectangles (with one pixel
+    // to spare around each).
+    int inside(QRgb colour, const QRect& area) const
+    {
+        int found = 0;
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            for (int x = area.left(); x <= area.right(); ++x)
+                found += (image().pixel(x, y) & 0xFFFFFF) == colour;
+        }
+        return found;
+    }
+    int outside(QRgb colour, std::initializer_list<QRect> allowed) const
+    {
+        int found = 0;
+        for (int y = 0; y < image().height(); ++y) {
+            for (int x = 0; x < image().width(); ++x) {
+                const bool within = std::any_of(allowed.begin(), allowed.end(), [&](const QRect& area) {
+                    return area.adjusted(-1, -1, 1, 1).contains(x, y);
+                });
+                found += !within && (image().pixel(x, y) & 0xFFFFFF) == colour;
+            }
+        }
+        return found;
+    }
+};
+
+// Each type opens on the jet form; its loaded holds are hatched inside the hold outlines on the lower
+// deck only, and its fuselage outline is closed: a fill from the cabin floor stays inside it.
+TEST_F(JetDecksGui, EachTypeOpensWithClosedOutlinesAndHatchesOnlyItsHolds)
+{
+    dir.makeSimulator();
+    dir.makeAircraft("jet", "aircraft.cfg", "[WEIGHT_AND_BALANCE]\r\nmax_number_of_stations = 0\r\n");
+    std::vector<std::string> entries;
+    for (const DeckCase& deck : kCases)
+        entries.push_back(std::string(deck.type) + ",jet");
+    dir.writeIni(dir.sim(), entries);
+    start();
+
+    QComboBox* list = find<QComboBox>(main(), "Combo1");
+    for (int n = 0; n < static_cast<int>(std::size(kCases)); ++n) {
+        const DeckCase& deck = kCases[n];
+        SCOPED_TRACE(deck.type);
+        list->setCurrentIndex(n);
+        emit list->activated(n);
+        QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
+        QMainWindow* window = app->window("Boeing");
+        ASSERT_NE(window, nullptr);
+        EXPECT_TRUE(window->isVisible());
+        EXPECT_EQ(window->windowTitle(), deck.type);
+        EXPECT_EQ(find<QLabel>(window, "lblpass")->text(), deck.countLine);
+
+        auto& form = static_cast<Boeing&>(*app->forms().existing("Boeing"));
+        LoadState& state = app->session().state;
+        const int aftHold = state.nstations + state.ncargo - 1;
+        state.stationweight[aftHold - 1] = 1000;
+        state.stationweight[aftHold] = 1000;
+        form.redraw();
+        const QRect forward = pixels(deck, deck.forwardHold, deck.at.lowerOrigin);
+        const QRect aft = pixels(deck, deck.aftHold, deck.at.lowerOrigin);
+        const QRect fuselage = pixels(deck, deck.fuselage, deck.at.y0);
+        EXPECT_GT(forward.top(), fuselage.bottom());
+        EXPECT_GT(inside(kGreenPixel, forward), 100);
+        EXPECT_GT(inside(kGreenPixel, aft), 100);
+        EXPECT_EQ(outside(kGreenPixel, {forward, aft}), 0);
+
+        Canvas& picture = form.Picture1();
+        picture.setFillStyle(FillStyle::Solid);
+        picture.setFillColor(kRed);
+        const QPoint cabin = pixels(deck, {deck.cabinX, deck.cabinX, 0}, deck.at.y0).topLeft();
+        picture.floodFill(cabin.x(), cabin.y());
+        EXPECT_GT(inside(kRedPixel, fuselage), 1000);
+        EXPECT_EQ(outside(kRedPixel, {fuselage}), 0);
+
+        window->close();
+        QApplication::processEvents();
+    }
+}
+
+} // namespace
+} // namespace quillet
