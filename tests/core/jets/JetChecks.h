@@ -4,40 +4,29 @@
 #include "jets/JetType.h"
 #include "platform/RecordingCanvas.h"
 
-#include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <string_view>
-#include <utility>
-#include <vector>
+#include <tuple>
 
 namespace quillet {
 
 // The type's set-up, checked against its published limits, counts and drawing scale.
-inline LoadState expectSetUp(std::string_view type, const JetLimits& limits, const JetCounts& counts,
-                             int scale)
+inline LoadState expectSetUp(std::string_view type, const JetLimits& l, const JetCounts& c, int scale)
 {
-    LoadState state;
+    LoadState s;
     int deckscale = 0;
-    findJetType(type)->setUp(state, deckscale);
+    findJetType(type)->setUp(s, deckscale);
     EXPECT_EQ(deckscale, scale);
-    EXPECT_FLOAT_EQ(state.maxtakeoff, limits.maxtakeoff);
-    EXPECT_FLOAT_EQ(state.maxlanding, limits.maxlanding);
-    EXPECT_FLOAT_EQ(state.emptyweight, limits.emptyweight);
-    EXPECT_FLOAT_EQ(state.maxfuel, limits.maxfuel);
-    EXPECT_FLOAT_EQ(state.maxzerofuel, limits.maxzerofuel);
-    EXPECT_EQ(state.maxpax, counts.maxpax);
-    EXPECT_EQ(state.cfgstations, counts.cfgstations);
-    EXPECT_EQ(state.seats1, counts.seats1);
-    EXPECT_EQ(state.seats2, counts.seats2);
-    EXPECT_EQ(state.seats3, counts.seats3);
-    EXPECT_EQ(state.nstations, counts.nstations);
-    EXPECT_EQ(state.ncargo, counts.ncargo);
-    EXPECT_EQ(state.nlower, counts.nlower);
-    EXPECT_EQ(state.ncrew, counts.ncrew);
-    EXPECT_EQ(state.loadweight, 0);
-    return state;
+    EXPECT_EQ(std::tuple(s.maxtakeoff, s.maxlanding, s.emptyweight, s.maxfuel, s.maxzerofuel),
+              std::tuple(l.maxtakeoff, l.maxlanding, l.emptyweight, l.maxfuel, l.maxzerofuel));
+    EXPECT_EQ(std::tuple(s.maxpax, s.cfgstations, s.seats1, s.seats2, s.seats3, s.nstations, s.ncargo,
+                         s.nlower, s.ncrew),
+              std::tuple(c.maxpax, c.cfgstations, c.seats1, c.seats2, c.seats3, c.nstations, c.ncargo,
+                         c.nlower, c.ncrew));
+    return s;
 }
 
 // A station as the type's published table gives it; a maximum of 0 for persons.
@@ -74,13 +63,12 @@ struct DeckDrawing {
 
     DeckMapping mainMap() const { return {jet.origins.x0, jet.origins.y0, double(scale)}; }
 
-    // How many lines of the main deck begin or end at this point of the centre line: the outline's
-    // two halves meet at its nose and its tail.
+    // How many main-deck lines begin or end on the centre line at this x, in feet.
     int centreLineEnds(double x) const
     {
         const DeckMapping map = mainMap();
-        const auto at = [&](double px, double py) {
-            return std::fabs(px - map.toX(x)) < 1e-6 && std::fabs(py - map.toY(0)) < 1e-6;
+        const auto at = [&](double twipsX, double twipsY) {
+            return std::fabs(twipsX - map.toX(x)) < 1e-6 && std::fabs(twipsY - map.toY(0)) < 1e-6;
         };
         int ends = 0;
         for (const DrawOp& op : mainDeck.ops(DrawOp::Kind::Line))
@@ -97,66 +85,72 @@ struct DeckDrawing {
 };
 
 // Where the deck texts stand, in twips: the top-left corners of the two headings, and the edge of
-// "Forward" and "Aft" at the given x (their right edges when `ending`, else their left edges), both
-// centred on the lower deck's centre line.
+// "Forward" and "Aft" (their right edges when `ending`, else their left edges), both centred on the
+// lower deck's centre line.
 struct DeckTexts {
-    double mainX, mainY, lowerX, lowerY;
-    double forwardEdge, aftEdge;
+    double mainX, mainY, lowerX, lowerY, forwardEdge, aftEdge;
     bool ending;
 };
 
-inline void expectTexts(DeckDrawing& deck, const DeckTexts& expected)
+// The fuselage in feet: the x of its nose and tail on the centre line, and its half width.
+struct Fuselage {
+    double nose, tail, halfWidth;
+};
+
+// The deck texts stand where they should; the outline's two halves meet at the nose and at the tail;
+// every seat box, container and crew circle lies inside the fuselage.
+inline void expectFuselage(DeckDrawing& deck, const DeckTexts& texts, const Fuselage& body)
 {
     const auto main = deck.mainDeck.ops(DrawOp::Kind::Text);
+    const auto lower = deck.lowerDeck.ops(DrawOp::Kind::Text);
     ASSERT_EQ(main.size(), 1u);
-    EXPECT_EQ(main[0].text, "Main Deck");
-    EXPECT_TRUE(main[0].bold);
-    EXPECT_NEAR(main[0].x1, expected.mainX, 1e-6);
-    EXPECT_NEAR(main[0].y1, expected.mainY, 1e-6);
-
-    RecordingCanvas& canvas = deck.lowerDeck;
-    const auto lower = canvas.ops(DrawOp::Kind::Text);
     ASSERT_EQ(lower.size(), 3u);
-    EXPECT_EQ(lower[0].text, "Lower Deck");
-    EXPECT_TRUE(lower[0].bold);
-    EXPECT_NEAR(lower[0].x1, expected.lowerX, 1e-6);
-    EXPECT_NEAR(lower[0].y1, expected.lowerY, 1e-6);
-    const double centreLine = deck.jet.origins.lowerOrigin * deck.scale - canvas.textHeight("T") / 2;
-    for (const auto& [label, edge] :
-         {std::pair{lower[1], expected.forwardEdge}, std::pair{lower[2], expected.aftEdge}}) {
-        EXPECT_FALSE(label.bold);
-        EXPECT_NEAR(label.x1 + (expected.ending ? canvas.textWidth(label.text) : 0), edge, 1e-6)
-            << label.text;
-        EXPECT_NEAR(label.y1, centreLine, 1e-6) << label.text;
+    EXPECT_EQ(std::tuple(main[0].text, main[0].bold, main[0].x1, main[0].y1),
+              std::tuple("Main Deck", true, texts.mainX, texts.mainY));
+    EXPECT_EQ(std::tuple(lower[0].text, lower[0].bold, lower[0].x1, lower[0].y1),
+              std::tuple("Lower Deck", true, texts.lowerX, texts.lowerY));
+    const double centreLine = deck.jet.origins.lowerOrigin * deck.scale - deck.lowerDeck.textHeight("T") / 2;
+    for (const auto& [label, text, edge] :
+         {std::tuple(lower[1], "Forward", texts.forwardEdge), std::tuple(lower[2], "Aft", texts.aftEdge)}) {
+        EXPECT_EQ(label.text, text);
+        EXPECT_NEAR(label.x1 + (texts.ending ? deck.lowerDeck.textWidth(text) : 0), edge, 1e-6) << text;
+        EXPECT_NEAR(label.y1, centreLine, 1e-6) << text;
     }
-    EXPECT_EQ(lower[1].text, "Forward");
-    EXPECT_EQ(lower[2].text, "Aft");
-}
 
-// Every seat box and crew circle lies inside the cabin: aft of the nose, forward of the tail and
-// within the fuselage's half width, all in feet.
-inline void expectPersonsInside(const DeckDrawing& deck, double nose, double tail, double halfWidth)
-{
+    EXPECT_EQ(deck.centreLineEnds(body.nose), 2);
+    EXPECT_EQ(deck.centreLineEnds(body.tail), 2);
+
     const DeckMapping map = deck.mainMap();
-    const auto inside = [&](double left, double top, double right, double bottom) {
-        return left > map.toX(nose) && right < map.toX(tail) && top > map.toY(halfWidth) &&
-               bottom < map.toY(-halfWidth);
-    };
-    for (const DrawOp& box : deck.seats.ops(DrawOp::Kind::Box))
-        EXPECT_TRUE(inside(box.x1, box.y1, box.x2, box.y2)) << box.x1 << ", " << box.y1;
-    for (const DrawOp& circle : deck.seats.ops(DrawOp::Kind::Circle))
-        EXPECT_TRUE(inside(circle.x1 - circle.radius, circle.y1 - circle.radius, circle.x1 + circle.radius,
-                           circle.y1 + circle.radius))
-            << circle.x1 << ", " << circle.y1;
+    for (const DrawOp& op : deck.seats.ops()) {
+        if (op.kind != DrawOp::Kind::Box && op.kind != DrawOp::Kind::Circle)
+            continue;
+        const bool circle = op.kind == DrawOp::Kind::Circle;
+        const double left = circle ? op.x1 - op.radius : op.x1;
+        const double top = circle ? op.y1 - op.radius : op.y1;
+        const double right = circle ? op.x1 + op.radius : op.x2;
+        const double bottom = circle ? op.y1 + op.radius : op.y2;
+        EXPECT_TRUE(left > map.toX(body.nose) && right < map.toX(body.tail) &&
+                    top > map.toY(body.halfWidth) && bottom < map.toY(-body.halfWidth))
+            << left << ", " << top;
+    }
 }
 
-// The widths in feet of the seat boxes, station by station.
-inline std::vector<double> seatWidths(const DeckDrawing& deck)
+// The cabin as drawn: one square box per seat, wider for the first `firstClass` seats, and a circle of
+// 0.75 ft per crew member.
+inline void expectCabin(const DeckDrawing& deck, std::size_t seats, std::size_t firstClass, double firstWidth,
+                        double economyWidth, std::size_t crew)
 {
-    std::vector<double> widths;
-    for (const DrawOp& box : deck.seats.ops(DrawOp::Kind::Box))
-        widths.push_back(std::round((box.x2 - box.x1) / deck.scale * 1000) / 1000);
-    return widths;
+    const auto boxes = deck.seats.ops(DrawOp::Kind::Box);
+    ASSERT_EQ(boxes.size(), seats);
+    for (std::size_t i = 0; i < seats; ++i) {
+        const double width = (i < firstClass ? firstWidth : economyWidth) * deck.scale;
+        EXPECT_NEAR(boxes[i].x2 - boxes[i].x1, width, 1e-6) << i;
+        EXPECT_NEAR(boxes[i].y2 - boxes[i].y1, width, 1e-6) << i;
+    }
+    const auto circles = deck.seats.ops(DrawOp::Kind::Circle);
+    EXPECT_EQ(circles.size(), crew);
+    for (const DrawOp& circle : circles)
+        EXPECT_NEAR(circle.radius, 0.75 * deck.scale, 1e-6);
 }
 
 } // namespace quillet
