@@ -1,5 +1,8 @@
 #include "JetType.h"
+
+#include "MD90.h"
 #include "data737.h"
+#include "data767.h"
 
 #include <algorithm>
 #include <array>
@@ -18,6 +21,9 @@ const std::array kJetTypes{
             data737::seats,
             data737::lowerDeck,
             2},
+    JetType{"B767-300ER", "data767", data767::setUpB767_300ER, {89.25, 10, 29, 29}, data767::mainDeck,
+            data767::seats, data767::lowerDeck, std::nullopt},
+    JetType{"MD-90-30", "MD90", MD90::setUpMD90_30, {93.5, 9, 26, 26}, MD90::mainDeck, MD90::seats, MD90::lowerDeck, 3},
 };
 
 } // namespace

@@ -28,5 +28,15 @@ TEST(JetGoldenStationFiles, B737_300)
     expectFirstStationFile("B737-300");
 }
 
+TEST(JetGoldenStationFiles, B767_300ER)
+{
+    expectFirstStationFile("B767-300ER");
+}
+
+TEST(JetGoldenStationFiles, MD90_30)
+{
+    expectFirstStationFile("MD-90-30");
+}
+
 } // namespace
 } // namespace quillet
