@@ -38,5 +38,15 @@ TEST(JetGoldenStationFiles, MD90_30)
     expectFirstStationFile("MD-90-30");
 }
 
+TEST(JetGoldenStationFiles, DC9_30F)
+{
+    expectFirstStationFile("DC-9-30F");
+}
+
+TEST(JetGoldenStationFiles, DC8_71F)
+{
+    expectFirstStationFile("DC-8-71F");
+}
+
 } // namespace
 } // namespace quillet
