@@ -1,6 +1,6 @@
 #include "DataDC8.h"
 
-#include "FreighterDeck.h"
+#include "JetDecks.h"
 #include "JetSetUp.h"
 
 #include <string>
@@ -50,10 +50,10 @@ void setUpDC8_71F(LoadState& state, int& deckscale)
     for (int i = 3; i <= 19; ++i) {
         x = kFirstContainer - (i - 3) * kPitch;
         cargo(state, i, "Container " + std::to_string(i - 2), x, 0, 8800);
-        freighterDeck::setContainerBox(state, i, kLength, kWidth);
+        jetDecks::setContainerBox(state, i, kLength, kWidth);
     }
     cargo(state, 20, "Container 18", x - 45.0 / 12 - 126.0 / 24, 0, 5000);
-    freighterDeck::setContainerBox(state, 20, kWidth, kLength);
+    jetDecks::setContainerBox(state, 20, kWidth, kLength);
 
     cargo(state, 21, "Lower Deck Cargo Forward", 35.5, 0, 15000);
     cargo(state, 22, "Lower Deck Cargo Aft", -48.5, 0, 15000);

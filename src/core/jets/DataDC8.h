@@ -8,7 +8,7 @@
 namespace quillet::DataDC8 {
 
 // The DC-8-71F: three crew, eighteen main-deck containers and two holds. Its persons and containers
-// are drawn by freighterDeck::seats.
+// are drawn by jetDecks::freighterSeats.
 void setUpDC8_71F(LoadState& state, int& deckscale);
 
 // The outline runs past the right edge of the picture; the canvas clips it.

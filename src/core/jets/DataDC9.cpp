@@ -1,6 +1,6 @@
 #include "DataDC9.h"
 
-#include "FreighterDeck.h"
+#include "JetDecks.h"
 #include "JetSetUp.h"
 
 #include <string>
@@ -47,15 +47,15 @@ void setUpDC9_30F(LoadState& state, int& deckscale)
 
     const double first = kPartition - 26.0 / 12;
     cargo(state, 3, "Container 1", first, 0, 2200);
-    freighterDeck::setContainerBox(state, 3, kSmallLength, kSmallWidth);
+    jetDecks::setContainerBox(state, 3, kSmallLength, kSmallWidth);
     double x = first;
     for (int i = 4; i <= 11; ++i) {
         x = first - 72.0 / 12 - (i - 4) * 90.0 / 12;
         cargo(state, i, "Container " + std::to_string(i - 2), x, 0, 4800);
-        freighterDeck::setContainerBox(state, i, kLength, kWidth);
+        jetDecks::setContainerBox(state, i, kLength, kWidth);
     }
     cargo(state, 12, "Container 10", x - 72.0 / 12, 0, 2100);
-    freighterDeck::setContainerBox(state, 12, kSmallLength, kSmallWidth);
+    jetDecks::setContainerBox(state, 12, kSmallLength, kSmallWidth);
 
     cargo(state, 13, "Lower Deck Cargo Forward", 23, 0, 7300);
     cargo(state, 14, "Lower Deck Cargo Aft", -20.5, 0, 4300);

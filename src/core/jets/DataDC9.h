@@ -8,7 +8,7 @@
 namespace quillet::DataDC9 {
 
 // The DC-9-30F: three crew, ten main-deck containers and two holds. Its persons and containers are
-// drawn by freighterDeck::seats.
+// drawn by jetDecks::freighterSeats.
 void setUpDC9_30F(LoadState& state, int& deckscale);
 
 // The main deck carries the cabin fittings too.

@@ -2,7 +2,7 @@
 
 #include "DataDC8.h"
 #include "DataDC9.h"
-#include "FreighterDeck.h"
+#include "JetDecks.h"
 #include "MD90.h"
 #include "data737.h"
 #include "data767.h"
@@ -17,9 +17,9 @@ namespace {
 // In the order the jet form tries the type strings; origins in feet.
 const std::array kJetTypes{
     JetType{"DC-9-30F", "DataDC9", DataDC9::setUpDC9_30F, {76.5, 9, 23, 23}, DataDC9::mainDeck,
-            freighterDeck::seats, DataDC9::lowerDeck, std::nullopt},
+            jetDecks::freighterSeats, DataDC9::lowerDeck, std::nullopt},
     JetType{"DC-8-71F", "DataDC8", DataDC8::setUpDC8_71F, {102, 11, 28, 28}, DataDC8::mainDeck,
-            freighterDeck::seats, DataDC8::lowerDeck, std::nullopt, true},
+            jetDecks::freighterSeats, DataDC8::lowerDeck, std::nullopt, true},
     JetType{"B737-300",
             "data737",
             data737::setUpB737_300,

@@ -1,5 +1,6 @@
 #include "MD90.h"
 
+#include "JetDecks.h"
 #include "JetSetUp.h"
 
 namespace quillet::MD90 {
@@ -91,15 +92,7 @@ void mainDeck(DeckPen& pen, const LoadState&, std::string_view)
 
 void seats(DeckPen& pen, const LoadState& state, std::string_view)
 {
-    for (int i = 0; i < state.nstations; ++i) {
-        const FeetPoint at{state.stationx[i], state.stationy[i]};
-        if (i < kFirstCabinSeats)
-            pen.box({at.x + 0.9, at.y + 0.9}, 1.8, 1.8);
-        else if (i < kSeats)
-            pen.box({at.x + 0.7, at.y + 0.7}, 1.4, 1.4);
-        else
-            pen.circle(at, 0.7);
-    }
+    jetDecks::personMarks(pen, state, {{kFirstCabinSeats, 1.8}, {kSeats, 1.4}}, 0.7);
 }
 
 void lowerDeck(DeckPen& pen, const LoadState&, std::string_view)

@@ -1,5 +1,6 @@
 #include "data767.h"
 
+#include "JetDecks.h"
 #include "JetSetUp.h"
 
 #include <string>
@@ -125,15 +126,7 @@ void mainDeck(DeckPen& pen, const LoadState&, std::string_view)
 void seats(DeckPen& pen, const LoadState& state, std::string_view)
 {
     fittings(pen);
-    for (int i = 0; i < state.nstations; ++i) {
-        const FeetPoint at{state.stationx[i], state.stationy[i]};
-        if (i < kFirstClassSeats)
-            pen.box({at.x + 0.9, at.y + 0.9}, 1.8, 1.8);
-        else if (i < kSeats)
-            pen.box({at.x + 0.75, at.y + 0.75}, 1.5, 1.5);
-        else
-            pen.circle(at, 0.75);
-    }
+    jetDecks::personMarks(pen, state, {{kFirstClassSeats, 1.8}, {kSeats, 1.5}}, 0.75);
 }
 
 void lowerDeck(DeckPen& pen, const LoadState& state, std::string_view)

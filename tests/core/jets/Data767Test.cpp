@@ -1,4 +1,5 @@
 #include "JetRig.h"
+#include "TypeTable.h"
 
 #include "jets/data767.h"
 
@@ -17,53 +18,18 @@ constexpr int kLastForward = 284;  // Container F8R
 constexpr int kFirstAft = 285;     // Container A1L
 constexpr int kBulk = 299;
 
-struct Station {
-    int index;
-    const char* name;
-    double x;
-    double y;
-};
-
-void expectStations(const LoadState& state, std::initializer_list<Station> stations)
-{
-    for (const Station& expected : stations) {
-        EXPECT_EQ(state.stationname[expected.index], expected.name) << expected.index;
-        EXPECT_NEAR(state.stationx[expected.index], expected.x, 1e-4) << expected.name;
-        EXPECT_NEAR(state.stationy[expected.index], expected.y, 1e-6) << expected.name;
-    }
-}
-
-TEST(JetB767_300ER, SetUpWritesTheLimitsAndCounts)
+TEST(JetB767_300ER, SetUpWritesTheLimitsAndTheSeats)
 {
     LoadState state;
     state.loadweight = 500;
     int deckscale = 0;
     data767::setUpB767_300ER(state, deckscale);
+    expectTable(state, deckscale,
+                {.maxtakeoff = 407000, .maxlanding = 320000, .emptyweight = 198443, .maxfuel = 161740,
+                 .maxzerofuel = 295000, .maxpax = 261, .cfgstations = 32, .seats1 = 24, .seats2 = 0, .seats3 = 237,
+                 .nstations = 269, .ncargo = 31, .nlower = 31, .ncrew = 8, .deckscale = 55});
 
-    EXPECT_EQ(deckscale, 55);
-    EXPECT_EQ(state.maxtakeoff, 407000);
-    EXPECT_EQ(state.maxlanding, 320000);
-    EXPECT_EQ(state.emptyweight, 198443);
-    EXPECT_EQ(state.maxfuel, 161740);
-    EXPECT_EQ(state.maxzerofuel, 295000);
-    EXPECT_EQ(state.maxpax, 261);
-    EXPECT_EQ(state.loadweight, 0);
-    EXPECT_EQ(state.cfgstations, 32);
-    EXPECT_EQ(state.seats1, 24);
-    EXPECT_EQ(state.seats2, 0);
-    EXPECT_EQ(state.seats3, 237);
-    EXPECT_EQ(state.nstations, 269);
-    EXPECT_EQ(state.ncargo, 31);
-    EXPECT_EQ(state.nlower, 31);
-    EXPECT_EQ(state.ncrew, 8);
-}
-
-TEST(JetB767_300ER, SeatsFollowTheRowsWithTheCentreBlockShifted)
-{
-    LoadState state;
-    int deckscale = 0;
-    data767::setUpB767_300ER(state, deckscale);
-
+    // Seats in letter order, the centre block shifted along the row.
     expectStations(state, {
                               {0, "Passenger 1A", 49.4, -6.67},
                               {1, "Passenger 1B", 49.4, -4.67},

@@ -1,4 +1,5 @@
 #include "JetRig.h"
+#include "TypeTable.h"
 
 #include "jets/DataDC8.h"
 #include "jets/DataDC9.h"
@@ -35,48 +36,23 @@ void expectContainers(const LoadState& state, std::initializer_list<Container> c
     }
 }
 
-void expectCrewAndHolds(const LoadState& state, double pilotsX, double crewX, double forwardX, float forwardMax,
-                        double aftX, float aftMax)
-{
-    const int holds = state.nstations + state.ncargo - 2;
-    EXPECT_EQ(state.stationname[0], "Pilot");
-    EXPECT_EQ(state.stationname[1], "Co-Pilot");
-    EXPECT_EQ(state.stationname[2], "Crew");
-    EXPECT_FLOAT_EQ(state.stationx[0], pilotsX);
-    EXPECT_FLOAT_EQ(state.stationy[0], -1.6f);
-    EXPECT_FLOAT_EQ(state.stationx[1], pilotsX);
-    EXPECT_FLOAT_EQ(state.stationy[1], 1.6f);
-    EXPECT_FLOAT_EQ(state.stationx[2], crewX);
-    EXPECT_FLOAT_EQ(state.stationy[2], -1.8f);
-    EXPECT_EQ(state.stationname[holds], "Lower Deck Cargo Forward");
-    EXPECT_FLOAT_EQ(state.stationx[holds], forwardX);
-    EXPECT_EQ(state.stationmax[holds], forwardMax);
-    EXPECT_EQ(state.stationname[holds + 1], "Lower Deck Cargo Aft");
-    EXPECT_FLOAT_EQ(state.stationx[holds + 1], aftX);
-    EXPECT_EQ(state.stationmax[holds + 1], aftMax);
-}
-
 TEST(JetDC9_30F, SetUpWritesCrewContainersAndHolds)
 {
     LoadState state;
     int deckscale = 0;
     DataDC9::setUpDC9_30F(state, deckscale);
 
-    EXPECT_EQ(deckscale, 65);
-    EXPECT_EQ(state.maxtakeoff, 108000);
-    EXPECT_EQ(state.maxlanding, 99000);
-    EXPECT_EQ(state.emptyweight, 56430);
-    EXPECT_EQ(state.maxfuel, 24949);
-    EXPECT_EQ(state.maxzerofuel, 87000);
-    EXPECT_EQ(state.maxpax, 158);
-    EXPECT_EQ(state.cfgstations, 15);
-    EXPECT_EQ(state.seats1 + state.seats2 + state.seats3, 0);
-    EXPECT_EQ(state.nstations, 3);
-    EXPECT_EQ(state.ncargo, 12);
-    EXPECT_EQ(state.nlower, 2);
-    EXPECT_EQ(state.ncrew, 3);
-
-    expectCrewAndHolds(state, 44, 41, 23, 7300, -20.5, 4300);
+    expectTable(state, deckscale,
+                {.maxtakeoff = 108000, .maxlanding = 99000, .emptyweight = 56430, .maxfuel = 24949,
+                 .maxzerofuel = 87000, .maxpax = 158, .cfgstations = 15, .seats1 = 0, .seats2 = 0, .seats3 = 0,
+                 .nstations = 3, .ncargo = 12, .nlower = 2, .ncrew = 3, .deckscale = 65});
+    expectStations(state, {{0, "Pilot", 44, -1.6},
+                           {1, "Co-Pilot", 44, 1.6},
+                           {2, "Crew", 41, -1.8},
+                           {13, "Lower Deck Cargo Forward", 23, 0},
+                           {14, "Lower Deck Cargo Aft", -20.5, 0}});
+    EXPECT_EQ(state.stationmax[13], 7300);
+    EXPECT_EQ(state.stationmax[14], 4300);
     expectContainers(state, {
                                 {3, "Container 1", 36.7333, 2200, 4.5, 7.3333},
                                 {4, "Container 2", 30.7333, 4800, 7.3333, 9},
@@ -97,21 +73,17 @@ TEST(JetDC8_71F, SetUpWritesCrewContainersAndHolds)
     int deckscale = 0;
     DataDC8::setUpDC8_71F(state, deckscale);
 
-    EXPECT_EQ(deckscale, 47);
-    EXPECT_EQ(state.maxtakeoff, 328000);
-    EXPECT_EQ(state.maxlanding, 258000);
-    EXPECT_EQ(state.emptyweight, 152700);
-    EXPECT_EQ(state.maxfuel, 156740);
-    EXPECT_EQ(state.maxzerofuel, 234000);
-    EXPECT_EQ(state.maxpax, 3);
-    EXPECT_EQ(state.cfgstations, 23);
-    EXPECT_EQ(state.seats1 + state.seats2 + state.seats3, 0);
-    EXPECT_EQ(state.nstations, 3);
-    EXPECT_EQ(state.ncargo, 20);
-    EXPECT_EQ(state.nlower, 2);
-    EXPECT_EQ(state.ncrew, 3);
-
-    expectCrewAndHolds(state, 67, 60, 35.5, 15000, -48.5, 15000);
+    expectTable(state, deckscale,
+                {.maxtakeoff = 328000, .maxlanding = 258000, .emptyweight = 152700, .maxfuel = 156740,
+                 .maxzerofuel = 234000, .maxpax = 3, .cfgstations = 23, .seats1 = 0, .seats2 = 0, .seats3 = 0,
+                 .nstations = 3, .ncargo = 20, .nlower = 2, .ncrew = 3, .deckscale = 47});
+    expectStations(state, {{0, "Pilot", 67, -1.6},
+                           {1, "Co-Pilot", 67, 1.6},
+                           {2, "Crew", 60, -1.8},
+                           {21, "Lower Deck Cargo Forward", 35.5, 0},
+                           {22, "Lower Deck Cargo Aft", -48.5, 0}});
+    EXPECT_EQ(state.stationmax[21], 15000);
+    EXPECT_EQ(state.stationmax[22], 15000);
     expectContainers(state, {
                                 {3, "Container 1", 52.1667, 8800, 7.3333, 10.4167},
                                 {4, "Container 2", 44.6667, 8800, 7.3333, 10.4167},

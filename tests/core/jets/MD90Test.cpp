@@ -1,4 +1,5 @@
 #include "JetRig.h"
+#include "TypeTable.h"
 
 #include "jets/MD90.h"
 
@@ -13,43 +14,17 @@ constexpr int kForwardHold = 164;
 constexpr int kCentreHold = 165;
 constexpr int kAftHold = 166;
 
-struct Station {
-    int index;
-    const char* name;
-    double x;
-    double y;
-};
-
-TEST(JetMD90_30, SetUpWritesTheLimitsAndCounts)
+TEST(JetMD90_30, SetUpWritesTheTypeTable)
 {
     LoadState state;
     int deckscale = 0;
     MD90::setUpMD90_30(state, deckscale);
+    expectTable(state, deckscale,
+                {.maxtakeoff = 156000, .maxlanding = 142000, .emptyweight = 88171, .maxfuel = 39128,
+                 .maxzerofuel = 130000, .maxpax = 158, .cfgstations = 4, .seats1 = 0, .seats2 = 12, .seats3 = 146,
+                 .nstations = 164, .ncargo = 3, .nlower = 3, .ncrew = 6, .deckscale = 60});
 
-    EXPECT_EQ(deckscale, 60);
-    EXPECT_EQ(state.maxtakeoff, 156000);
-    EXPECT_EQ(state.maxlanding, 142000);
-    EXPECT_EQ(state.emptyweight, 88171);
-    EXPECT_EQ(state.maxfuel, 39128);
-    EXPECT_EQ(state.maxzerofuel, 130000);
-    EXPECT_EQ(state.maxpax, 158);
-    EXPECT_EQ(state.cfgstations, 4);
-    EXPECT_EQ(state.seats1, 0);
-    EXPECT_EQ(state.seats2, 12);
-    EXPECT_EQ(state.seats3, 146);
-    EXPECT_EQ(state.nstations, 164);
-    EXPECT_EQ(state.ncargo, 3);
-    EXPECT_EQ(state.nlower, 3);
-    EXPECT_EQ(state.ncrew, 6);
-}
-
-TEST(JetMD90_30, StationTable)
-{
-    LoadState state;
-    int deckscale = 0;
-    MD90::setUpMD90_30(state, deckscale);
-
-    const Station stations[] = {
+    expectStations(state, {
         // First cabin: A, C, D, F with D outboard.
         {0, "Passenger 1A", 55.8, -4.1},
         {1, "Passenger 1C", 55.8, -2.0},
@@ -78,12 +53,7 @@ TEST(JetMD90_30, StationTable)
         {kForwardHold, "Lower Deck Cargo Forward", 46, 0},
         {kCentreHold, "Lower Deck Cargo Centre", 20, 0},
         {kAftHold, "Lower Deck Cargo Aft", -26.5, 0},
-    };
-    for (const Station& expected : stations) {
-        EXPECT_EQ(state.stationname[expected.index], expected.name) << expected.index;
-        EXPECT_NEAR(state.stationx[expected.index], expected.x, 1e-4) << expected.name;
-        EXPECT_FLOAT_EQ(state.stationy[expected.index], static_cast<float>(expected.y)) << expected.name;
-    }
+    });
     EXPECT_EQ(state.stationmax[kForwardHold], 2002);
     EXPECT_EQ(state.stationmax[kCentreHold], 5168);
     EXPECT_EQ(state.stationmax[kAftHold], 5168);
