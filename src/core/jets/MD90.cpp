@@ -21,7 +21,7 @@ constexpr FeetPoint kWindow1[] = {{69.971, 1.931}, {70.84, 0.75}, {71.9, 0.75}, 
 constexpr FeetPoint kWindow2[] = {{69.95, 1.986}, {69.28, 1.236}, {68.5, 1.778}, {69, 2.694}, {69.94, 1.972}};
 constexpr FeetPoint kWindow3[] = {{69, 2.708}, {67.62, 3.444}, {67.5, 3.944}, {69.4, 3.6}, {69.03, 2.764}};
 
-// Cockpit bulkhead, galleys, the doors' bulkheads, lavatories and the aft pressure bulkhead.
+// The cabin fittings, front to back.
 void fittings(DeckPen& pen)
 {
     pen.line({66, 4.8}, {66, -4.8});

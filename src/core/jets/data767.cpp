@@ -32,7 +32,7 @@ constexpr FeetPoint kBulkHold[] = {
     {-53, 5.2}, {-58, 5.2}, {-63, 4.5}, {-63, -4.5}, {-58, -5.2}, {-53, -5.2}, {-53, 5.2},
 };
 
-// Galleys, lavatories and door bulkheads, front to back.
+// The cabin fittings.
 void fittings(DeckPen& pen)
 {
     pen.polyline({{56.5, 7.8}, {56.5, 2.2}, {59.5, 2.2}, {59.5, 7.5}});
@@ -82,7 +82,7 @@ void setUpB767_300ER(LoadState& state, int& deckscale)
         seatRow(state, i + 4, row, x, "EF", {4.67, 6.67});
     }
     // Economy at a 34-inch pitch: rows 5 to 16, where the centre block C, D, E sits 0.7 ft forward;
-    // rows 17 and 18 (centre block only, beside the doors); rows 19 to 39, centre block 1.25 ft aft.
+    // rows 17 and 18, centre block only; rows 19 to 39, where the centre block sits 1.25 ft aft.
     for (int i = 24; i <= 101; i += 7) {
         const double x = 35.4 - ((i - 24) / 7) * 34.0 / 12;
         const int row = (i - 24) / 7 + 5;
