@@ -12,11 +12,13 @@ constexpr int kWidth = 3;
 
 } // namespace
 
-void personMarks(DeckPen& pen, const LoadState& state, std::initializer_list<SeatClass> classes, double crewRadius)
+void personMarks(DeckPen& pen, const LoadState& state, std::initializer_list<SeatClass> classes,
+                 double crewRadius)
 {
     for (int i = 0; i < state.nstations; ++i) {
         const FeetPoint at{state.stationx[i], state.stationy[i]};
-        const auto seat = std::find_if(classes.begin(), classes.end(), [i](const SeatClass& c) { return i < c.end; });
+        const auto seat =
+            std::find_if(classes.begin(), classes.end(), [i](const SeatClass& c) { return i < c.end; });
         if (seat != classes.end())
             pen.centredBox(at, seat->side, seat->side);
         else

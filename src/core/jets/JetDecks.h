@@ -18,7 +18,8 @@ struct SeatClass {
 
 // One mark per person station: a square per seat by its class, and a circle of `crewRadius` feet for
 // every station after the last class (the crew).
-void personMarks(DeckPen& pen, const LoadState& state, std::initializer_list<SeatClass> classes, double crewRadius);
+void personMarks(DeckPen& pen, const LoadState& state, std::initializer_list<SeatClass> classes,
+                 double crewRadius);
 
 // The persons and main-deck containers of the jet freighters that keep their container sizes in
 // `containerbox`: a circle per crew station, then each main-deck container as a box of its length

@@ -24,8 +24,10 @@ constexpr FeetPoint kOutline[] = {
     {-71.63, 6.691}, {-73.95, 4.882}, {-75.4, 1.923},  {-75.5, 0},
 };
 
-constexpr FeetPoint kWindow1[] = {{69, 0.176}, {67.172, 0.123}, {65.876, 2.004}, {67.055, 2.601}, {69, 0.141}};
-constexpr FeetPoint kWindow2[] = {{66.8, 2.795}, {65.678, 2.197}, {64.319, 2.759}, {64.445, 3.849}, {66.8, 2.795}};
+constexpr FeetPoint kWindow1[] = {
+    {69, 0.176}, {67.172, 0.123}, {65.876, 2.004}, {67.055, 2.601}, {69, 0.141}};
+constexpr FeetPoint kWindow2[] = {
+    {66.8, 2.795}, {65.678, 2.197}, {64.319, 2.759}, {64.445, 3.849}, {66.8, 2.795}};
 constexpr FeetPoint kWindow3[] = {{64, 2.9}, {62.429, 3.392}, {62.366, 4.341}, {64.121, 3.884}, {64, 2.9}};
 
 constexpr FeetPoint kBulkHold[] = {
@@ -69,8 +71,15 @@ void setUpB767_300ER(LoadState& state, int& deckscale)
     state.emptyweight = 198443;
     state.maxfuel = 161740;
     state.maxzerofuel = 295000;
-    setCounts(state, {.maxpax = 261, .cfgstations = 32, .seats1 = 24, .seats2 = 0, .seats3 = 237,
-                      .nstations = 269, .ncargo = 31, .nlower = 31, .ncrew = 8});
+    setCounts(state, {.maxpax = 261,
+                      .cfgstations = 32,
+                      .seats1 = 24,
+                      .seats2 = 0,
+                      .seats3 = 237,
+                      .nstations = 269,
+                      .ncargo = 31,
+                      .nlower = 31,
+                      .ncrew = 8});
     deckscale = 55;
 
     // First class, rows 1 to 4 at a 38-inch pitch; the centre pair C, D sits 0.3 ft forward.

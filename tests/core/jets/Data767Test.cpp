@@ -1,12 +1,11 @@
+#include "jets/data767.h"
+
 #include "JetRig.h"
 #include "TypeTable.h"
 
-#include "jets/data767.h"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
+#include <gtest/gtest.h>
 #include <numeric>
 #include <set>
 
@@ -25,30 +24,33 @@ TEST(JetB767_300ER, SetUpWritesTheLimitsAndTheSeats)
     int deckscale = 0;
     data767::setUpB767_300ER(state, deckscale);
     expectTable(state, deckscale,
-                {.maxtakeoff = 407000, .maxlanding = 320000, .emptyweight = 198443, .maxfuel = 161740,
-                 .maxzerofuel = 295000, .maxpax = 261, .cfgstations = 32, .seats1 = 24, .seats2 = 0, .seats3 = 237,
-                 .nstations = 269, .ncargo = 31, .nlower = 31, .ncrew = 8, .deckscale = 55});
+                {.maxtakeoff = 407000,
+                 .maxlanding = 320000,
+                 .emptyweight = 198443,
+                 .maxfuel = 161740,
+                 .maxzerofuel = 295000,
+                 .maxpax = 261,
+                 .cfgstations = 32,
+                 .seats1 = 24,
+                 .seats2 = 0,
+                 .seats3 = 237,
+                 .nstations = 269,
+                 .ncargo = 31,
+                 .nlower = 31,
+                 .ncrew = 8,
+                 .deckscale = 55});
 
     // Seats in letter order, the centre block shifted along the row.
     expectStations(state, {
-                              {0, "Passenger 1A", 49.4, -6.67},
-                              {1, "Passenger 1B", 49.4, -4.67},
-                              {2, "Passenger 1C", 49.7, -1.0},
-                              {3, "Passenger 1D", 49.7, 1.0},
-                              {5, "Passenger 1F", 49.4, 6.67},
-                              {23, "Passenger 4F", 39.9, 6.67},
-                              {24, "Passenger 5A", 35.4, -6.74},
-                              {26, "Passenger 5C", 36.1, -1.72},
-                              {27, "Passenger 5D", 36.1, 0},
-                              {30, "Passenger 5G", 35.4, 6.74},
-                              {107, "Passenger 16G", 4.2333, 6.74},
-                              {108, "Passenger 17C", 2.1, -1.72},
-                              {110, "Passenger 17E", 2.1, 1.72},
-                              {113, "Passenger 18E", -0.7333, 1.72},
-                              {114, "Passenger 19A", -2.5, -6.74},
-                              {116, "Passenger 19C", -3.75, -1.72},
-                              {119, "Passenger 19F", -2.5, 5.02},
-                              {256, "Passenger 39C", -60.4167, -1.72},
+                              {0, "Passenger 1A", 49.4, -6.67},       {1, "Passenger 1B", 49.4, -4.67},
+                              {2, "Passenger 1C", 49.7, -1.0},        {3, "Passenger 1D", 49.7, 1.0},
+                              {5, "Passenger 1F", 49.4, 6.67},        {23, "Passenger 4F", 39.9, 6.67},
+                              {24, "Passenger 5A", 35.4, -6.74},      {26, "Passenger 5C", 36.1, -1.72},
+                              {27, "Passenger 5D", 36.1, 0},          {30, "Passenger 5G", 35.4, 6.74},
+                              {107, "Passenger 16G", 4.2333, 6.74},   {108, "Passenger 17C", 2.1, -1.72},
+                              {110, "Passenger 17E", 2.1, 1.72},      {113, "Passenger 18E", -0.7333, 1.72},
+                              {114, "Passenger 19A", -2.5, -6.74},    {116, "Passenger 19C", -3.75, -1.72},
+                              {119, "Passenger 19F", -2.5, 5.02},     {256, "Passenger 39C", -60.4167, -1.72},
                               {260, "Passenger 39G", -59.1667, 6.74},
                           });
 
@@ -59,7 +61,8 @@ TEST(JetB767_300ER, SetUpWritesTheLimitsAndTheSeats)
         names.insert(state.stationname[i]);
     }
     EXPECT_EQ(names.size(), 261u);
-    for (const char* absent : {"Passenger 17A", "Passenger 17B", "Passenger 17F", "Passenger 18G", "Passenger 40A"})
+    for (const char* absent :
+         {"Passenger 17A", "Passenger 17B", "Passenger 17F", "Passenger 18G", "Passenger 40A"})
         EXPECT_EQ(names.count(absent), 0u) << absent;
 }
 
@@ -162,7 +165,8 @@ TEST_F(B767Form, TheClickThatTipsTheZoneHatchesAllForwardContainersRed)
     rig.prompt.answer("4501");
     const LoadState& state = rig.session.state;
     rig.picture().forget();
-    form->Picture1_MouseDown(Boeing::kLeftButton, 0, state.stationpx[kLastForward], state.stationpy[kLastForward]);
+    form->Picture1_MouseDown(Boeing::kLeftButton, 0, state.stationpx[kLastForward],
+                             state.stationpy[kLastForward]);
     ASSERT_EQ(rig.prompt.asked().size(), 1u);
     EXPECT_EQ(rig.prompt.asked()[0].prompt, "Container F8R weight in lbs");
 
@@ -225,7 +229,8 @@ TEST_F(B767Form, SavesThePersonsAsOneStationAndEachContainer)
     rig.session.state.stationweight[261] = 200;
     form->mnusave_Click();
     const std::string cfg = rig.dir.read("sim/aircraft/b767_300er/aircraft.cfg");
-    EXPECT_NE(cfg.find("// B767-300ER configuration two class 261 passangers.\r\n"), std::string::npos) << cfg;
+    EXPECT_NE(cfg.find("// B767-300ER configuration two class 261 passangers.\r\n"), std::string::npos)
+        << cfg;
     EXPECT_NE(cfg.find("max_number_of_stations = 32\r\n"
                        "station_load.0 = 200, 64.0, -1.8, 0.0 // All Personel (Crew + Passengers)\r\n"
                        "station_load.1 = 0, 50.0, -2.6, 0.0 // Container F1L\r\n"

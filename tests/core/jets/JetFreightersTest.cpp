@@ -1,13 +1,11 @@
 #include "JetRig.h"
 #include "TypeTable.h"
-
 #include "jets/DataDC8.h"
 #include "jets/DataDC9.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
+#include <gtest/gtest.h>
 #include <tuple>
 
 namespace quillet {
@@ -43,9 +41,21 @@ TEST(JetDC9_30F, SetUpWritesCrewContainersAndHolds)
     DataDC9::setUpDC9_30F(state, deckscale);
 
     expectTable(state, deckscale,
-                {.maxtakeoff = 108000, .maxlanding = 99000, .emptyweight = 56430, .maxfuel = 24949,
-                 .maxzerofuel = 87000, .maxpax = 158, .cfgstations = 15, .seats1 = 0, .seats2 = 0, .seats3 = 0,
-                 .nstations = 3, .ncargo = 12, .nlower = 2, .ncrew = 3, .deckscale = 65});
+                {.maxtakeoff = 108000,
+                 .maxlanding = 99000,
+                 .emptyweight = 56430,
+                 .maxfuel = 24949,
+                 .maxzerofuel = 87000,
+                 .maxpax = 158,
+                 .cfgstations = 15,
+                 .seats1 = 0,
+                 .seats2 = 0,
+                 .seats3 = 0,
+                 .nstations = 3,
+                 .ncargo = 12,
+                 .nlower = 2,
+                 .ncrew = 3,
+                 .deckscale = 65});
     expectStations(state, {{0, "Pilot", 44, -1.6},
                            {1, "Co-Pilot", 44, 1.6},
                            {2, "Crew", 41, -1.8},
@@ -74,9 +84,21 @@ TEST(JetDC8_71F, SetUpWritesCrewContainersAndHolds)
     DataDC8::setUpDC8_71F(state, deckscale);
 
     expectTable(state, deckscale,
-                {.maxtakeoff = 328000, .maxlanding = 258000, .emptyweight = 152700, .maxfuel = 156740,
-                 .maxzerofuel = 234000, .maxpax = 3, .cfgstations = 23, .seats1 = 0, .seats2 = 0, .seats3 = 0,
-                 .nstations = 3, .ncargo = 20, .nlower = 2, .ncrew = 3, .deckscale = 47});
+                {.maxtakeoff = 328000,
+                 .maxlanding = 258000,
+                 .emptyweight = 152700,
+                 .maxfuel = 156740,
+                 .maxzerofuel = 234000,
+                 .maxpax = 3,
+                 .cfgstations = 23,
+                 .seats1 = 0,
+                 .seats2 = 0,
+                 .seats3 = 0,
+                 .nstations = 3,
+                 .ncargo = 20,
+                 .nlower = 2,
+                 .ncrew = 3,
+                 .deckscale = 47});
     expectStations(state, {{0, "Pilot", 67, -1.6},
                            {1, "Co-Pilot", 67, 1.6},
                            {2, "Crew", 60, -1.8},
@@ -184,7 +206,8 @@ TEST(JetDC8_71F, TheOutlineRunsPastThePictureAndEverythingElseStillDraws)
 
 TEST(JetDC8_71F, DrawingChecksTheCargoFirstUnlikeTheOtherTypes)
 {
-    for (const auto& [type, container, checks] : {std::tuple{"DC-8-71F", 3, true}, std::tuple{"DC-9-30F", 3, false}}) {
+    for (const auto& [type, container, checks] :
+         {std::tuple{"DC-8-71F", 3, true}, std::tuple{"DC-9-30F", 3, false}}) {
         JetRig rig;
         Boeing& form = rig.open(type);
         LoadState& state = rig.session.state;
@@ -213,7 +236,8 @@ TEST(JetFreighters, PresetsLoadTheCargoAndLeaveTheCrew)
         JetRig rig;
         Boeing& form = rig.open(type);
         LoadState& state = rig.session.state;
-        for (void (Boeing::*preset)() : {&Boeing::mnulight_Click, &Boeing::mnumed_Click, &Boeing::mnuheav_Click}) {
+        for (void (Boeing::*preset)() :
+             {&Boeing::mnulight_Click, &Boeing::mnumed_Click, &Boeing::mnuheav_Click}) {
             std::copy(std::begin(crew), std::end(crew), state.stationweight.begin());
             pushPresetDraws(rig.random, 0.9, 0.5, state.ncargo);
             (form.*preset)();
@@ -254,14 +278,17 @@ TEST(JetFreighters, SavesOneLinePerStationAsACargoConfiguration)
         rig.session.state.stationweight[3] = 1500;
         form.mnusave_Click();
         const std::string cfg = rig.dir.read(std::string("sim/aircraft/") + folder + "/aircraft.cfg");
-        EXPECT_NE(cfg.find("// " + std::string(type) + " configurationCrago Configuration\r\n"), std::string::npos)
+        EXPECT_NE(cfg.find("// " + std::string(type) + " configurationCrago Configuration\r\n"),
+                  std::string::npos)
             << cfg;
-        EXPECT_NE(cfg.find("max_number_of_stations = " + std::to_string(stations) + "\r\n"), std::string::npos)
+        EXPECT_NE(cfg.find("max_number_of_stations = " + std::to_string(stations) + "\r\n"),
+                  std::string::npos)
             << cfg;
         EXPECT_NE(cfg.find("station_load.0 = 180, "), std::string::npos) << cfg;
         EXPECT_NE(cfg.find(" // Co-Pilot\r\nstation_load.2 = 0, "), std::string::npos) << cfg;
         EXPECT_NE(cfg.find("station_load.3 = 1500, "), std::string::npos) << cfg;
-        EXPECT_NE(cfg.find("station_load." + std::to_string(stations - 1) + " = 0, "), std::string::npos) << cfg;
+        EXPECT_NE(cfg.find("station_load." + std::to_string(stations - 1) + " = 0, "), std::string::npos)
+            << cfg;
         EXPECT_NE(cfg.find(" // Lower Deck Cargo Aft\r\n \r\n"), std::string::npos) << cfg;
         EXPECT_EQ(cfg.find("station_load." + std::to_string(stations) + " "), std::string::npos) << cfg;
         EXPECT_EQ(cfg.find("All Personel"), std::string::npos) << cfg;

@@ -22,8 +22,11 @@ public:
     {
         LoadState& state = session.state;
         state.simfolder = dir.sim();
-        const char* entries[][2] = {{"B737-300", "b737_300"}, {"B767-300ER", "b767_300er"}, {"MD-90-30", "md90_30"},
-                                    {"DC-9-30F", "dc9_30f"},  {"DC-8-71F", "dc8_71f"}};
+        const char* entries[][2] = {{"B737-300", "b737_300"},
+                                    {"B767-300ER", "b767_300er"},
+                                    {"MD-90-30", "md90_30"},
+                                    {"DC-9-30F", "dc9_30f"},
+                                    {"DC-8-71F", "dc8_71f"}};
         for (const auto& [type, folder] : entries) {
             state.menutype[state.nmenu] = type;
             state.menufolder[state.nmenu] = folder;

@@ -3,7 +3,6 @@
 #include "load/LoadState.h"
 
 #include <gtest/gtest.h>
-
 #include <initializer_list>
 
 namespace quillet {
