@@ -88,5 +88,19 @@ void BM_PointerOverB757_200(benchmark::State& run)
 }
 BENCHMARK(BM_PointerOverB757_200)->Unit(benchmark::kMicrosecond);
 
+// The most stations: 269 persons, 30 containers and the bulk hold.
+void BM_PointerOverB767_300ER(benchmark::State& run)
+{
+    pointerMove(run, "B767-300ER");
+}
+BENCHMARK(BM_PointerOverB767_300ER)->Unit(benchmark::kMicrosecond);
+
+// Eighteen main-deck containers, and the cargo check runs inside the drawing too.
+void BM_PointerOverDC8_71F(benchmark::State& run)
+{
+    pointerMove(run, "DC-8-71F");
+}
+BENCHMARK(BM_PointerOverDC8_71F)->Unit(benchmark::kMicrosecond);
+
 } // namespace
 } // namespace quillet

@@ -1,7 +1,12 @@
+#include "DataDC8.h"
+#include "DataDC9.h"
+#include "JetDecks.h"
 #include "JetType.h"
+#include "MD90.h"
 #include "data727.h"
 #include "data737.h"
 #include "data757.h"
+#include "data767.h"
 
 #include <algorithm>
 #include <array>
@@ -12,6 +17,23 @@ namespace {
 
 // In the order the jet form tries the type strings; origins in feet.
 const std::array kJetTypes{
+    JetType{"DC-9-30F",
+            "DataDC9",
+            DataDC9::setUpDC9_30F,
+            {76.5, 9, 23, 23},
+            DataDC9::mainDeck,
+            jetDecks::freighterSeats,
+            DataDC9::lowerDeck,
+            std::nullopt},
+    JetType{"DC-8-71F",
+            "DataDC8",
+            DataDC8::setUpDC8_71F,
+            {102, 11, 28, 28},
+            DataDC8::mainDeck,
+            jetDecks::freighterSeats,
+            DataDC8::lowerDeck,
+            std::nullopt,
+            true},
     JetType{"B757-200",
             "data757",
             data757::setUpB757_200,
@@ -44,6 +66,14 @@ const std::array kJetTypes{
             data727::seats,
             data727::lowerDeck,
             2},
+    JetType{"B767-300ER",
+            "data767",
+            data767::setUpB767_300ER,
+            {89.25, 10, 29, 29},
+            data767::mainDeck,
+            data767::seats,
+            data767::lowerDeck,
+            std::nullopt},
     JetType{"B737-200ADV",
             "data737",
             data737::setUpB737_200ADV,
@@ -52,6 +82,14 @@ const std::array kJetTypes{
             data737::seats,
             data737::lowerDeck,
             2},
+    JetType{"MD-90-30",
+            "MD90",
+            MD90::setUpMD90_30,
+            {93.5, 9, 26, 26},
+            MD90::mainDeck,
+            MD90::seats,
+            MD90::lowerDeck,
+            3},
 };
 
 } // namespace

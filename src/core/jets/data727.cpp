@@ -1,6 +1,6 @@
 #include "data727.h"
 
-#include "JetDrawing.h"
+#include "JetDecks.h"
 #include "JetSetUp.h"
 
 namespace quillet::data727 {
@@ -104,7 +104,7 @@ void mainDeck(DeckPen& pen, const LoadState&, std::string_view)
 
 void seats(DeckPen& pen, const LoadState& state, std::string_view)
 {
-    seatsAndCrew(pen, state, {{12, 1.8}, {147, 1.5}});
+    jetDecks::personMarks(pen, state, {{12, 1.8}, {147, 1.5}}, 0.75);
 }
 
 void lowerDeck(DeckPen& pen, const LoadState&, std::string_view)

@@ -1,6 +1,6 @@
 #include "data737.h"
 
-#include "JetDrawing.h"
+#include "JetDecks.h"
 #include "JetSetUp.h"
 
 #include <vector>
@@ -170,11 +170,11 @@ void seats(DeckPen& pen, const LoadState& state, std::string_view type)
 {
     // The class boundaries are the types' own, whatever a station file says of the class counts.
     if (type == kB737_200ADV) {
-        seatsAndCrew(pen, state, {{14, 1.8}, {102, 1.5}});
+        jetDecks::personMarks(pen, state, {{14, 1.8}, {102, 1.5}}, 0.75);
         fittings200(pen);
         return;
     }
-    seatsAndCrew(pen, state, {{8, 1.8}, {128, 1.5}});
+    jetDecks::personMarks(pen, state, {{8, 1.8}, {128, 1.5}}, 0.75);
     fittings300(pen);
 }
 

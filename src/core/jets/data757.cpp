@@ -1,6 +1,6 @@
 #include "data757.h"
 
-#include "JetDrawing.h"
+#include "JetDecks.h"
 #include "JetSetUp.h"
 
 #include <algorithm>
@@ -132,7 +132,7 @@ void mainDeck(DeckPen& pen, const LoadState&, std::string_view)
 
 void seats(DeckPen& pen, const LoadState& state, std::string_view)
 {
-    seatsAndCrew(pen, state, {{26, 2.0}, {184, 1.5}});
+    jetDecks::personMarks(pen, state, {{26, 2.0}, {184, 1.5}}, 0.75);
     // Galleys, lavatories and closets, fore to aft.
     pen.polyline({{54, 5.4}, {54, 0.97}, {59, 0.97}, {59, 5.3}});
     pen.polyline({{29, 5.6}, {29, 1.7}, {32, 1.7}, {32, 6}});

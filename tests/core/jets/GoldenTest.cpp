@@ -48,5 +48,25 @@ TEST(JetGoldenStationFiles, B727_212ADV)
     expectFirstStationFile("B727-212ADV");
 }
 
+TEST(JetGoldenStationFiles, B767_300ER)
+{
+    expectFirstStationFile("B767-300ER");
+}
+
+TEST(JetGoldenStationFiles, MD90_30)
+{
+    expectFirstStationFile("MD-90-30");
+}
+
+TEST(JetGoldenStationFiles, DC9_30F)
+{
+    expectFirstStationFile("DC-9-30F");
+}
+
+TEST(JetGoldenStationFiles, DC8_71F)
+{
+    expectFirstStationFile("DC-8-71F");
+}
+
 } // namespace
 } // namespace quillet

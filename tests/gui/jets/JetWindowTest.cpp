@@ -113,5 +113,34 @@ TEST_F(JetWindowGui, LoadedHoldsAreHatchedInsideTheirOutlineOnly)
     EXPECT_TRUE(colours(200, 83, 270, 112).count(kRedPixel));
 }
 
+TEST_F(JetWindowGui, TheDC8DeckIsCutAtThePictureEdgeAndTakesAHeavyLoad)
+{
+    dir.makeAircraft("dc8", "aircraft.cfg", "[WEIGHT_AND_BALANCE]\r\nempty_weight = 152700\r\n");
+    dir.writeIni(dir.sim(), {"DC-8-71F,dc8"});
+    start();
+    QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
+    ASSERT_NE(jetWindow(), nullptr);
+    EXPECT_EQ(jetWindow()->windowTitle(), "DC-8-71F");
+
+    // The tail cone leaves the picture at x = -100 ft, 2.2 ft either side of the centre line: pixel
+    // rows 27 and 41 of the last columns.
+    constexpr QRgb kBlackPixel = 0x000000;
+    EXPECT_TRUE(colours(630, 25, 632, 29).count(kBlackPixel));
+    EXPECT_TRUE(colours(630, 39, 632, 43).count(kBlackPixel));
+
+    jetWindow()->findChild<QAction*>(QStringLiteral("mnuheav"))->trigger();
+    QApplication::processEvents();
+    // Container 1 at (52.17, 0) ft and the aft hold at (-48.5, 0) ft are hatched green.
+    EXPECT_TRUE(colours(150, 30, 162, 38).count(kGreenPixel));
+    EXPECT_TRUE(colours(466, 85, 478, 94).count(kGreenPixel));
+    EXPECT_EQ(find<QLabel>(jetWindow(), "lblpass")->text(), "Passengers  0 / 3");
+
+    // Over the aftmost container the label opens to the left, over containers 15 to 17.
+    EXPECT_TRUE(colours(480, 31, 540, 37).count(kGreenPixel));
+    QTest::mouseMove(find<QWidget>(jetWindow(), "Picture1"), QPoint(560, 34));
+    QApplication::processEvents();
+    EXPECT_FALSE(colours(480, 31, 540, 37).count(kGreenPixel));
+}
+
 } // namespace
 } // namespace quillet

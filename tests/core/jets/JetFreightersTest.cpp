@@ -1,0 +1,229 @@
+#include "JetRig.h"
+#include "jets/DataDC8.h"
+#include "jets/DataDC9.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <tuple>
+
+namespace quillet {
+namespace {
+
+// The golden station files check names, positions and counts; these are what they do not hold. (The
+// DC-9-30F's maxima are checked through its heavy load below.)
+TEST(JetFreighters, SetUpsWriteScalesMaximaAndContainerSizes)
+{
+    LoadState dc9;
+    int dc9Scale = 0;
+    DataDC9::setUpDC9_30F(dc9, dc9Scale);
+    EXPECT_EQ(dc9Scale, 65);
+    EXPECT_EQ(dc9.maxpax, 158);
+    // Containers 1 and 10 are 54 in long and 88 in wide, the eight between them 88 by 108 in.
+    for (int i : {3, 12}) {
+        EXPECT_NEAR(dc9.containerbox[i][2], 4.5, 1e-5) << i;
+        EXPECT_NEAR(dc9.containerbox[i][3], 7.3333, 1e-4) << i;
+    }
+    for (int i = 4; i <= 11; ++i) {
+        EXPECT_NEAR(dc9.containerbox[i][2], 7.3333, 1e-4) << i;
+        EXPECT_NEAR(dc9.containerbox[i][3], 9, 1e-5) << i;
+    }
+
+    LoadState dc8;
+    int dc8Scale = 0;
+    DataDC8::setUpDC8_71F(dc8, dc8Scale);
+    EXPECT_EQ(dc8Scale, 47);
+    EXPECT_EQ(dc8.maxpax, 3);
+    for (int i = 3; i <= 19; ++i) {
+        EXPECT_EQ(dc8.stationmax[i], 8800) << i;
+        EXPECT_NEAR(dc8.containerbox[i][2], 7.3333, 1e-4) << i;
+        EXPECT_NEAR(dc8.containerbox[i][3], 10.4167, 1e-4) << i;
+    }
+    EXPECT_EQ(dc8.stationname[20], "Container 18");
+    EXPECT_EQ(dc8.stationmax[20], 5000);
+    EXPECT_NEAR(dc8.containerbox[20][2], 10.4167, 1e-4);
+    EXPECT_NEAR(dc8.containerbox[20][3], 7.3333, 1e-4);
+    EXPECT_EQ(dc8.stationmax[21], 15000);
+    EXPECT_EQ(dc8.stationmax[22], 15000);
+}
+
+// The boxes of a freighter's main deck, in drawing order: one per container.
+std::vector<DrawOp> containerBoxes(JetRig& rig)
+{
+    rig.picture().forget();
+    rig.form->redraw();
+    return rig.picture().ops(DrawOp::Kind::Box);
+}
+
+TEST(JetDC9_30F, ContainersAreDrawnEndToEndWithAnInchBetweenTheFirstTwo)
+{
+    JetRig rig;
+    rig.open("DC-9-30F");
+    const auto boxes = containerBoxes(rig);
+    ASSERT_EQ(boxes.size(), 10u);
+    // Container 1: 4.5 ft by 7.3333 ft centred on (36.7333, 0), at 65 twips per foot from (76.5, 9).
+    EXPECT_NEAR(boxes[0].x1, (76.5 - 36.7333 - 2.25) * 65, 0.01);
+    EXPECT_NEAR(boxes[0].y1, (9 - 3.66667) * 65, 0.01);
+    EXPECT_NEAR(boxes[0].x2 - boxes[0].x1, 4.5 * 65, 1e-3);
+    // Centres 6 ft apart; the boxes 1 inch apart.
+    EXPECT_NEAR((boxes[1].x1 + boxes[1].x2) / 2 - (boxes[0].x1 + boxes[0].x2) / 2, 6 * 65, 1e-3);
+    EXPECT_NEAR(boxes[1].x1 - boxes[0].x2, 65.0 / 12, 1e-3);
+    // Container 10 sits 6 ft behind Container 9.
+    EXPECT_NEAR((boxes[9].x1 + boxes[9].x2) / 2 - (boxes[8].x1 + boxes[8].x2) / 2, 6 * 65, 1e-3);
+
+    // Three crew circles of 0.7 ft; the holds' labels start at x = 50 and -32 ft.
+    const auto circles = rig.picture().ops(DrawOp::Kind::Circle);
+    ASSERT_EQ(circles.size(), 3u);
+    EXPECT_DOUBLE_EQ(circles[0].radius, 45.5);
+    const auto texts = rig.picture().ops(DrawOp::Kind::Text);
+    ASSERT_EQ(texts.size(), 4u);
+    EXPECT_EQ(texts[0].text, "Main Deck");
+    EXPECT_DOUBLE_EQ(texts[0].x1, 422.5);
+    EXPECT_DOUBLE_EQ(texts[0].y1, 97.5);
+    EXPECT_EQ(texts[1].text, "Lower Deck");
+    EXPECT_DOUBLE_EQ(texts[1].y1, 1170);
+    EXPECT_EQ(texts[2].text, "Forward");
+    EXPECT_DOUBLE_EQ(texts[2].x1, 1722.5);
+    EXPECT_EQ(texts[3].text, "Aft");
+    EXPECT_DOUBLE_EQ(texts[3].x1, 7052.5);
+}
+
+TEST(JetDC8_71F, Container18IsDrawnTurnedNineFeetBehindContainer17)
+{
+    JetRig rig;
+    rig.open("DC-8-71F");
+    const auto boxes = containerBoxes(rig);
+    ASSERT_EQ(boxes.size(), 18u);
+    const DrawOp& c17 = boxes[16];
+    const DrawOp& c18 = boxes[17];
+    EXPECT_NEAR(c17.x2 - c17.x1, 88.0 / 12 * 47, 1e-3);
+    EXPECT_NEAR(c17.y2 - c17.y1, 125.0 / 12 * 47, 1e-3);
+    EXPECT_NEAR(c18.x2 - c18.x1, 125.0 / 12 * 47, 1e-3);
+    EXPECT_NEAR(c18.y2 - c18.y1, 88.0 / 12 * 47, 1e-3);
+    EXPECT_NEAR((c18.x1 + c18.x2) / 2 - (c17.x1 + c17.x2) / 2, 9 * 47, 1e-3);
+    EXPECT_NEAR(c18.x1, (102 + 76.8333 - 125.0 / 24) * 47, 0.01);
+    EXPECT_NEAR((c18.y1 + c18.y2) / 2, 11 * 47, 1e-3);
+
+    const auto texts = rig.picture().ops(DrawOp::Kind::Text);
+    ASSERT_EQ(texts.size(), 4u);
+    EXPECT_DOUBLE_EQ(texts[0].x1, 94);
+    EXPECT_DOUBLE_EQ(texts[0].y1, 164.5);
+    EXPECT_DOUBLE_EQ(texts[1].y1, 1081);
+    EXPECT_DOUBLE_EQ(texts[2].x1, 1504);
+    EXPECT_DOUBLE_EQ(texts[3].x1, 5499);
+}
+
+TEST(JetDC8_71F, TheOutlineRunsPastThePictureAndEverythingElseStillDraws)
+{
+    JetRig rig;
+    Boeing& form = rig.open("DC-8-71F");
+    LoadState& state = rig.session.state;
+    rig.picture().forget();
+    form.redraw();
+    // The tail cone ends at (102 + 108.16) * 47 = 9877.52 twips, past the 9500-twip picture.
+    double farthest = 0;
+    for (const DrawOp& line : rig.picture().ops(DrawOp::Kind::Line))
+        farthest = std::max({farthest, line.x1, line.x2});
+    EXPECT_NEAR(farthest, 9877.52, 1e-6);
+
+    // The aftmost container is still inside, and its label opens to its left.
+    const int c18 = 20;
+    state.stationweight[c18] = 4000;
+    EXPECT_EQ(state.stationpx[c18], 8405);
+    form.Picture1_MouseMove(0, 0, 8405, state.stationpy[c18]);
+    const DrawOp label = rig.picture().ops(DrawOp::Kind::Text).back();
+    EXPECT_EQ(label.text, " Container 18 4000 lb.");
+    EXPECT_DOUBLE_EQ(label.x1, 8405 - 0.75 * 47 - rig.picture().textWidth(label.text));
+}
+
+TEST(JetDC8_71F, DrawingChecksTheCargoFirstUnlikeTheOtherTypes)
+{
+    for (const auto& [type, container, checks] :
+         {std::tuple{"DC-8-71F", 3, true}, std::tuple{"DC-9-30F", 3, false}}) {
+        JetRig rig;
+        Boeing& form = rig.open(type);
+        LoadState& state = rig.session.state;
+        state.stationweight[container] = state.stationmax[container] + 1;
+        rig.picture().forget();
+        form.redraw();
+        EXPECT_EQ(state.stationmsg[container], checks ? " Container Overload" : "") << type;
+        const auto fills = rig.picture().ops(DrawOp::Kind::FloodFill);
+        ASSERT_EQ(fills.size(), 1u) << type;
+        EXPECT_EQ(fills[0].fillColor, checks ? kRed : kGreen) << type;
+    }
+}
+
+// Steers a preset: the first draw, then the same share for every other draw.
+void pushPresetDraws(ScriptedRandom& random, double first, double rest, int cargo)
+{
+    random.push(first);
+    for (int i = 0; i < cargo; ++i)
+        random.push(rest);
+}
+
+TEST(JetFreighters, PresetsLoadTheCargoAndLeaveTheCrew)
+{
+    const float crew[] = {190, 175, 160};
+    for (const char* type : {"DC-9-30F", "DC-8-71F"}) {
+        JetRig rig;
+        Boeing& form = rig.open(type);
+        LoadState& state = rig.session.state;
+        for (void (Boeing::*preset)() :
+             {&Boeing::mnulight_Click, &Boeing::mnumed_Click, &Boeing::mnuheav_Click}) {
+            std::copy(std::begin(crew), std::end(crew), state.stationweight.begin());
+            pushPresetDraws(rig.random, 0.9, 0.5, state.ncargo);
+            (form.*preset)();
+            EXPECT_EQ(rig.random.left(), 0u) << type;
+            EXPECT_EQ(rig.random.overdrawn(), 0) << type;
+            for (int i = 0; i < 3; ++i)
+                EXPECT_EQ(state.stationweight[i], crew[i]) << type << " " << i;
+            EXPECT_EQ(state.npax, 0) << type;
+            EXPECT_FLOAT_EQ(state.loadweight, rig.sumOfWeights()) << type;
+        }
+    }
+}
+
+TEST(JetFreighters, HeavyLoadsEveryCargoStationAtItsOwnShare)
+{
+    JetRig rig;
+    Boeing& form = rig.open("DC-9-30F");
+    const float maxima[] = {2200, 4800, 4800, 4800, 4800, 4800, 4800, 4800, 4800, 2100, 7300, 4300};
+    rig.random.push(0.3);
+    for (int i = 0; i < 12; ++i)
+        rig.random.push(i / 12.0);
+    form.mnuheav_Click();
+    const LoadState& state = rig.session.state;
+    for (int i = 0; i < 12; ++i)
+        EXPECT_NEAR(state.stationweight[3 + i], maxima[i] * (0.2 * i / 12.0 + 0.5), 1e-3) << i;
+    // Ten main-deck containers loaded; the holds are not counted.
+    EXPECT_EQ(state.ncontainers, 10);
+    EXPECT_EQ(form.labels.lblpass.text, "Containers  10 / 10");
+}
+
+TEST(JetFreighters, SavesOneLinePerStationAsACargoConfiguration)
+{
+    for (const auto& [type, folder, stations] :
+         {std::tuple{"DC-9-30F", "dc_9_30f", 15}, std::tuple{"DC-8-71F", "dc_8_71f", 23}}) {
+        JetRig rig;
+        Boeing& form = rig.open(type);
+        rig.session.state.stationweight[0] = 180;
+        rig.session.state.stationweight[3] = 1500;
+        form.mnusave_Click();
+        const std::string cfg = rig.dir.read(std::string("sim/aircraft/") + folder + "/aircraft.cfg");
+        EXPECT_NE(cfg.find("// " + std::string(type) + " configurationCrago Configuration\r\n"),
+                  std::string::npos)
+            << cfg;
+        EXPECT_NE(cfg.find("max_number_of_stations = " + std::to_string(stations) + "\r\n"),
+                  std::string::npos)
+            << cfg;
+        EXPECT_NE(cfg.find("station_load.0 = 180, "), std::string::npos) << cfg;
+        EXPECT_NE(cfg.find("station_load.3 = 1500, "), std::string::npos) << cfg;
+        EXPECT_NE(cfg.find("station_load." + std::to_string(stations - 1) + " = 0, "), std::string::npos)
+            << cfg;
+        EXPECT_NE(cfg.find(" // Lower Deck Cargo Aft\r\n \r\n"), std::string::npos) << cfg;
+        EXPECT_EQ(cfg.find("station_load." + std::to_string(stations) + " "), std::string::npos) << cfg;
+    }
+}
+
+} // namespace
+} // namespace quillet
