@@ -3,12 +3,12 @@
 #include "BoeingLayout.h"
 #include "cfgfile/inputoutput.h"
 #include "load/PresetDraws.h"
+#include "load/StationInput.h"
 #include "load/StationLabel.h"
 #include "platform/Format.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace quillet {
 
@@ -31,21 +31,6 @@ constexpr float kAftZoneLimit = 37800;
 
 constexpr std::string_view kContainerOverload = " Container Overload";
 constexpr std::string_view kZoneOverload = " Zone Overload";
-
-// The weight typed into an input box: its leading number, taken as it is, negative numbers too. A
-// number a single-precision weight cannot hold counts as no number.
-float typedWeight(const std::optional<std::string>& answer)
-{
-    const double value = val(answer.value_or(std::string()));
-    if (!(std::fabs(value) <= std::numeric_limits<float>::max()))
-        return 0;
-    return static_cast<float>(value);
-}
-
-std::int16_t toMarker(int twips)
-{
-    return static_cast<std::int16_t>(std::clamp(twips, -32768, 32767));
-}
 
 } // namespace
 
