@@ -18,11 +18,14 @@ namespace quillet {
 class BenchSession {
 public:
     explicit BenchSession(std::string type)
-        : m_folder(std::filesystem::temp_directory_path() / ("quillet-bench-" + std::to_string(std::random_device()()))),
+        : m_folder(std::filesystem::temp_directory_path() /
+                   ("quillet-bench-" + std::to_string(std::random_device()()))),
           session(m_prompt, m_random, m_clock, m_folder), m_type(std::move(type))
     {
         std::filesystem::create_directories(m_folder);
-        session.makeCanvas = [](double width, double height) { return std::make_unique<QtCanvas>(width, height); };
+        session.makeCanvas = [](double width, double height) {
+            return std::make_unique<QtCanvas>(width, height);
+        };
         session.currentType = [this] { return m_type; };
     }
     ~BenchSession()

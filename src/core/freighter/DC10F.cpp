@@ -28,9 +28,9 @@ constexpr double kAftLength = 68.2 / 12;
 constexpr double kAftWidth = 62.5 / 12;
 
 // The picture's frame in feet: box x grows towards the tail, box y downwards.
-constexpr double kPairOneX = 50;          // box x of main-deck pair 1
-constexpr double kPairSixX = 1225.0 / 12; // box x of pair 6, where stationx is 0
-constexpr double kMainRow = 13;           // the main deck's centre line
+constexpr double kPairOneX = 50;                 // box x of main-deck pair 1
+constexpr double kPairSixX = 1225.0 / 12;        // box x of pair 6, where stationx is 0
+constexpr double kMainRow = 13;                  // the main deck's centre line
 constexpr double kLowerRow = 26 + kPosition / 2; // the lower holds' centre line, 31.2083
 // The outline and the hit points sit half a position forward of the boxes and crew discs.
 constexpr double kOutlineX0 = kPairSixX - kPosition / 2; // 96.875
@@ -56,7 +56,8 @@ struct MaximumRange {
     float maximum; // lb
 };
 constexpr MaximumRange kMaxima[] = {
-    {0, 1, 8800}, {2, 9, 9020}, {10, 15, 14960}, {16, 21, 9020}, {22, 22, 9350}, {23, 27, 10340}, {28, 37, 3476},
+    {0, 1, 8800},   {2, 9, 9020},    {10, 15, 14960}, {16, 21, 9020},
+    {22, 22, 9350}, {23, 27, 10340}, {28, 37, 3476},
 };
 
 struct Zone {
@@ -65,11 +66,11 @@ struct Zone {
     double limit; // lb
 };
 constexpr Zone kZones[] = {
-    {0, 9, 50000},    // main deck 1L to 5R
-    {10, 15, 60000},  // main deck 6L to 8R
-    {16, 22, 38000},  // main deck 9L to 11R and 12
-    {23, 27, 40000},  // forward lower hold A to E
-    {28, 37, 35000},  // aft lower hold C1L to C5R
+    {0, 9, 50000},   // main deck 1L to 5R
+    {10, 15, 60000}, // main deck 6L to 8R
+    {16, 22, 38000}, // main deck 9L to 11R and 12
+    {23, 27, 40000}, // forward lower hold A to E
+    {28, 37, 35000}, // aft lower hold C1L to C5R
 };
 
 // The centre positions 6L to 8R take the heaviest loads of a preset. Container 9L is left out of the
@@ -84,7 +85,8 @@ struct CrewSeat {
     double y;
 };
 constexpr CrewSeat kCrew[] = {
-    {"Pilot", 70, -2}, {"Co-Pilot", 70, 2}, {"Flight Engineer", 67, 0}, {"Crew", 63.5, -2.8}, {"Crew", 63.5, -5.2},
+    {"Pilot", 70, -2},    {"Co-Pilot", 70, 2},  {"Flight Engineer", 67, 0},
+    {"Crew", 63.5, -2.8}, {"Crew", 63.5, -5.2},
 };
 
 // A container with its box in picture feet centred on (boxX, row + y); its station lies along the
@@ -96,8 +98,8 @@ void container(LoadState& state, int i, std::string name, double boxX, double ro
     state.stationx[i] = static_cast<float>(kPairSixX - boxX);
     state.stationy[i] = static_cast<float>(y);
     state.stationz[i] = 0;
-    state.containerbox[i] = {static_cast<float>(boxX), static_cast<float>(row + y), static_cast<float>(length),
-                             static_cast<float>(width)};
+    state.containerbox[i] = {static_cast<float>(boxX), static_cast<float>(row + y),
+                             static_cast<float>(length), static_cast<float>(width)};
 }
 
 int clampedTo(int value, int capacity)
@@ -155,8 +157,8 @@ void DC10F::setUpStations()
         container(state, 2 * n - 1, name + "R", boxX, kMainRow, width / 2, kPosition, width);
     }
     // Position 12 stands crosswise on the centre line behind pair 11.
-    container(state, 22, "Container 12", kPairOneX + 10 * kPosition + kPosition / 2 + kWide / 2, kMainRow, 0, kWide,
-              kPosition);
+    container(state, 22, "Container 12", kPairOneX + 10 * kPosition + kPosition / 2 + kWide / 2, kMainRow, 0,
+              kWide, kPosition);
     // Forward lower hold, A to E on the centre line.
     for (int k = 0; k < 5; ++k) {
         container(state, 23 + k, std::string("Container ") + static_cast<char>('A' + k),
@@ -189,8 +191,8 @@ void DC10F::setUpStations()
     const DeckMapping hitPoints{kOutlineX0, 0, static_cast<double>(deckscale)};
     for (int station = 0; station < kFirstCrew + static_cast<int>(std::size(kCrew)); ++station) {
         state.stationpx[station] = toMarker(hitPoints.stationX(state.stationx[station]));
-        state.stationpy[station] =
-            toMarker(static_cast<int>(roundHalfEven(state.containerbox[station][1] * static_cast<double>(deckscale))));
+        state.stationpy[station] = toMarker(
+            static_cast<int>(roundHalfEven(state.containerbox[station][1] * static_cast<double>(deckscale))));
     }
 }
 
@@ -254,8 +256,8 @@ void DC10F::Picture1_MouseMove(int, int, double X, double Y)
         picture.setFont(kLabelPoints, false);
         picture.setFillColor(kWhite);
         picture.setFillStyle(FillStyle::Solid);
-        drawStationLabel(picture, stationLabelText(state.stationname[i], state.stationweight[i]), state.stationpx[i],
-                         state.stationpy[i], kLabelPlacement);
+        drawStationLabel(picture, stationLabelText(state.stationname[i], state.stationweight[i]),
+                         state.stationpx[i], state.stationpy[i], kLabelPlacement);
         picture.setFillStyle(FillStyle::Transparent);
         picture.setFillColor(kGreen);
     }

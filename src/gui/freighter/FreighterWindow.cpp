@@ -45,7 +45,8 @@ FreighterWindow::FreighterWindow(DC10F& form, Application& app) : LoadFormWindow
 void FreighterWindow::buildMenus()
 {
     const auto item = [this](QMenu* menu, const MenuItem& entry, void (DC10F::*handler)()) {
-        addMenuItem(menu, entry, [this, handler] { m_app.handle([this, handler] { (m_dc10f.*handler)(); }); });
+        addMenuItem(menu, entry,
+                    [this, handler] { m_app.handle([this, handler] { (m_dc10f.*handler)(); }); });
     };
     QMenu* file = menuBar()->addMenu(latin(dc10f::kMnufile.caption));
     file->setObjectName(latin(dc10f::kMnufile.name));

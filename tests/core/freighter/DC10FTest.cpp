@@ -532,7 +532,9 @@ TEST(DC10FPresets, TheHeaviestPositionsMoveToTheCentreButContainer9LIsPassedOver
         rig.random.push(i == kContainer9L ? 0.99 : i == kContainer9R ? 0.98 : 0);
     form.mnulight_Click();
 
-    const auto expected = [](double maximum, double r) { return static_cast<float>(maximum * kShare * (0.05 + r / 3)); };
+    const auto expected = [](double maximum, double r) {
+        return static_cast<float>(maximum * kShare * (0.05 + r / 3));
+    };
     EXPECT_FLOAT_EQ(state.stationweight[kContainer9L], expected(9020, 0.99));
     EXPECT_FLOAT_EQ(state.stationweight[kContainer6L], expected(9020, 0.98));
     EXPECT_FLOAT_EQ(state.stationweight[kContainer9R], expected(14960, 0));
@@ -547,7 +549,8 @@ TEST(DC10FPresets, NoPresetBreaksALimitAndTheTotalIsTheSum)
     DC10F& form = rig.open();
     LoadState& state = rig.session.state;
     for (int round = 0; round < 20; ++round) {
-        for (void (DC10F::*preset)() : {&DC10F::mnulight_Click, &DC10F::mnumed_Click, &DC10F::mnuheav_Click}) {
+        for (void (DC10F::*preset)() :
+             {&DC10F::mnulight_Click, &DC10F::mnumed_Click, &DC10F::mnuheav_Click}) {
             (form.*preset)();
             float sum = 0;
             for (int i = 0; i < kStations; ++i)
@@ -576,7 +579,8 @@ TEST(DC10FPresets, HeavyLoadKeepsTheMarksOfTheLastCheckAndWhatLiesBeyondTheStati
     rig.picture().forget();
     form.mnuheav_Click();
     EXPECT_EQ(state.stationweight[400], 50);
-    EXPECT_FLOAT_EQ(state.stationweight[kContainer1R], static_cast<float>(8800 * kShare * (0.66666 + 0.5 / 3)));
+    EXPECT_FLOAT_EQ(state.stationweight[kContainer1R],
+                    static_cast<float>(8800 * kShare * (0.66666 + 0.5 / 3)));
     EXPECT_EQ(state.stationmsg[kContainer1R], "Container Overload");
     EXPECT_EQ(containerBox(rig, kContainer1R).fillColor, kRed);
     EXPECT_EQ(form.overloadNote, "Container Overload");

@@ -24,9 +24,10 @@ public:
         state.menutype[0] = "DC-10-30F";
         state.menufolder[0] = "dc10_30f";
         state.nmenu = 1;
-        dir.makeAircraft("dc10_30f", "aircraft.cfg",
-                         "[fltsim.0]\r\ntitle=DC-10\r\n\r\n[WEIGHT_AND_BALANCE]\r\nmax_number_of_stations = 0\r\n"
-                         "\r\n[flight_tuning]\r\ncruise_lift_scalar=1.0\r\n");
+        dir.makeAircraft(
+            "dc10_30f", "aircraft.cfg",
+            "[fltsim.0]\r\ntitle=DC-10\r\n\r\n[WEIGHT_AND_BALANCE]\r\nmax_number_of_stations = 0\r\n"
+            "\r\n[flight_tuning]\r\ncruise_lift_scalar=1.0\r\n");
         dir.write("DC-10-30F.gif", "GIF89a");
         session.currentType = [this] { return currentType; };
     }

@@ -21,10 +21,12 @@ protected:
     void SetUp() override
     {
         dir.makeSimulator();
-        dir.makeAircraft("dc10", "aircraft.cfg",
-                         "[fltsim.0]\r\ntitle=DC-10\r\n\r\n[WEIGHT_AND_BALANCE]\r\nempty_weight = 237594\r\n");
+        dir.makeAircraft(
+            "dc10", "aircraft.cfg",
+            "[fltsim.0]\r\ntitle=DC-10\r\n\r\n[WEIGHT_AND_BALANCE]\r\nempty_weight = 237594\r\n");
         dir.writeIni(dir.sim(), {"DC-10-30F,dc10"});
-        dir.write("DC-10-30F.gif", TempDir::readFile(std::filesystem::path(QUILLET_PICTURES) / "DC-10-30F.gif"));
+        dir.write("DC-10-30F.gif",
+                  TempDir::readFile(std::filesystem::path(QUILLET_PICTURES) / "DC-10-30F.gif"));
     }
 
     // The form opened with "Adjust".
@@ -66,8 +68,9 @@ TEST_F(FreighterWindowGui, OpensWithItsControlsAndLoadsAContainerWithTheMouse)
         for (QAction* item : menu->menu()->actions())
             menus << item->text();
     }
-    EXPECT_EQ(menus.join('|'),
-              "&File|&Re-load Configuration|&Save Configuration|&Auto Load|&Light Load|&Medium Load|&Heavy Load");
+    EXPECT_EQ(
+        menus.join('|'),
+        "&File|&Re-load Configuration|&Save Configuration|&Auto Load|&Light Load|&Medium Load|&Heavy Load");
 
     // Container 1L is hit at (2329, 468) twips, pixel (155, 31); its box spans pixels 141 to 177
     // across and 17 to 45 down.
