@@ -40,7 +40,6 @@ constexpr int kFirstCrew = 38;
 constexpr int kContainerHit = 200; // twips either side of a station's point
 constexpr int kCrewHit = 80;
 constexpr double kCrewDotRadius = 0.8; // feet
-constexpr double kLabelPoints = 8;
 constexpr double kNotePoints = 10;
 constexpr double kNoteLeft = 500;
 constexpr double kNoteTop = 50;
@@ -253,13 +252,8 @@ void DC10F::Picture1_MouseMove(int, int, double X, double Y)
     for (int i = 0; i < markedStations(); ++i) {
         if (!hits(i, X, Y) || !(state.stationweight[i] > 0))
             continue;
-        picture.setFont(kLabelPoints, false);
-        picture.setFillColor(kWhite);
-        picture.setFillStyle(FillStyle::Solid);
         drawStationLabel(picture, stationLabelText(state.stationname[i], state.stationweight[i]),
                          state.stationpx[i], state.stationpy[i], kLabelPlacement);
-        picture.setFillStyle(FillStyle::Transparent);
-        picture.setFillColor(kGreen);
     }
     cargocheck();
 }

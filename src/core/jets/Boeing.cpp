@@ -20,7 +20,6 @@ constexpr double kPersonHalfWidth = 0.75; // feet, for the hover labels
 constexpr double kCargoHalfWidth = 2.5;
 constexpr double kSeatDotRadius = 45;
 constexpr double kPicturePoints = 8.25;
-constexpr double kLabelPoints = 8;
 
 // The B767-300ER's lower deck is also limited by zone: the first sixteen cargo stations after its
 // 269 persons form the forward zone, the rest the aft one.
@@ -227,12 +226,7 @@ void Boeing::Picture1_MouseMove(int, int, double X, double Y)
         std::string text = stationLabelText(state.stationname[i], state.stationweight[i]);
         if (state.stationweight[i] > state.stationmax[i])
             text += state.stationmsg[i];
-        picture.setFont(kLabelPoints, false);
-        picture.setFillColor(kWhite);
-        picture.setFillStyle(FillStyle::Solid);
         drawStationLabel(picture, text, state.stationpx[i], state.stationpy[i], placement);
-        picture.setFillStyle(FillStyle::Transparent);
-        picture.setFillColor(kGreen);
     }
     cargocheck();
 }

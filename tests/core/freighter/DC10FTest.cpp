@@ -1,5 +1,6 @@
 #include "FreighterRig.h"
 
+#include "Drawing.h"
 #include "Golden.h"
 #include "freighter/FreighterForms.h"
 
@@ -447,12 +448,7 @@ TEST(DC10FDrawing, TheDecksAreDrawnAtTheirFixedPlaces)
 
     // The nose at 1062.1 twips, the tail at 8521.5, the cabin walls at 199.2 and 1152.8.
     const auto lines = canvas.ops(DrawOp::Kind::Line);
-    const auto touches = [&](double x, double y) {
-        return std::any_of(lines.begin(), lines.end(), [&](const DrawOp& op) {
-            return (std::fabs(op.x1 - x) < 0.05 && std::fabs(op.y1 - y) < 0.05) ||
-                   (std::fabs(op.x2 - x) < 0.05 && std::fabs(op.y2 - y) < 0.05);
-        });
-    };
+    const auto touches = [&](double x, double y) { return lineEndsNear(lines, x, y, 0.05); };
     EXPECT_TRUE(touches(1062.1, 676));
     EXPECT_TRUE(touches(8521.5, 676));
     EXPECT_TRUE(touches(6938.62, 199.16));
