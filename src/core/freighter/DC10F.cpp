@@ -32,8 +32,9 @@ constexpr double kPairOneX = 50;                 // box x of main-deck pair 1
 constexpr double kPairSixX = 1225.0 / 12;        // box x of pair 6, where stationx is 0
 constexpr double kMainRow = 13;                  // the main deck's centre line
 constexpr double kLowerRow = 26 + kPosition / 2; // the lower holds' centre line, 31.2083
-// The outline and the hit points sit half a position forward of the boxes and crew discs.
-constexpr double kOutlineX0 = kPairSixX - kPosition / 2; // 96.875
+// The outline and the points that take the mouse are mapped from 96.875 ft (pair 6 less half a
+// position), the boxes and crew discs from 98 ft: those are drawn 1.125 ft aft of their points.
+constexpr double kOutlineX0 = kPairSixX - kPosition / 2;
 constexpr double kDrawX0 = 98;
 
 constexpr int kFirstCrew = 38;

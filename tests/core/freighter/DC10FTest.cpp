@@ -166,6 +166,19 @@ TEST(DC10FTable, CrewSeatsHaveNoMaximumWhateverAnEarlierTypeLeftThere)
         EXPECT_EQ(rig.session.state.stationmax[i], 0) << i;
 }
 
+TEST(DC10FTable, AMissingPictureIsToldOnceAndTheFormStillOpens)
+{
+    FreighterRig rig;
+    std::filesystem::remove(rig.dir.path() / "DC-10-30F.gif");
+    rig.open();
+    rig.open();
+    EXPECT_TRUE(rig.form->photo.empty());
+    EXPECT_EQ(rig.session.state.ncargo, 38);
+    const auto& told = rig.session.messages.pending();
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_NE(told[0].find("DC-10-30F.gif"), std::string::npos);
+}
+
 TEST(DC10FTable, TheFirstStationFileHoldsTheTableWithEveryWeightZero)
 {
     FreighterRig rig;
