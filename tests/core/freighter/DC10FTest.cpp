@@ -2,7 +2,6 @@
 
 #include "Drawing.h"
 #include "Golden.h"
-#include "freighter/FreighterForms.h"
 
 #include <gtest/gtest.h>
 
@@ -184,14 +183,6 @@ TEST(DC10FTable, TheFirstStationFileHoldsTheTableWithEveryWeightZero)
     FreighterRig rig;
     rig.open();
     expectGoldenFile("DC-10-30F.cfg", rig.dir.read("DC-10-30F.cfg"));
-}
-
-TEST(DC10FTable, TheMainWindowFindsTheFormForTheDC10Only)
-{
-    FormRegistry forms;
-    registerFreighterForms(forms);
-    EXPECT_TRUE(forms.serves("DC10F", "DC-10-30F"));
-    EXPECT_FALSE(forms.serves("DC10F", "DC-9-30F"));
 }
 
 TEST(DC10FMouse, OverlappingContainersAskOneAfterTheOtherAndSeparatePairsDoNot)
