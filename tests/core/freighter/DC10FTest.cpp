@@ -1,12 +1,10 @@
-#include "FreighterRig.h"
-
 #include "Drawing.h"
+#include "FreighterRig.h"
 #include "Golden.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
+#include <gtest/gtest.h>
 
 namespace quillet {
 namespace {

@@ -1,5 +1,5 @@
-#include "JetRig.h"
 #include "Drawing.h"
+#include "JetRig.h"
 #include "jets/JetForms.h"
 #include "jets/data737.h"
 

@@ -1,4 +1,5 @@
 #include "Golden.h"
+
 #include "JetRig.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,4 @@
 #include "GuiFixture.h"
-
 #include "freighter/DC10F.h"
 #include "platform/PictureBox.h"
 #include "platform/QtCanvas.h"
