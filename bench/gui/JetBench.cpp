@@ -1,34 +1,20 @@
 // One pointer movement over a fully loaded jet deck, as the window sees it: the whole redraw on the
 // Qt canvas with its flood fills, the cargo check, the hover label and the weight summary with both
 // balance pictures.
+#include "BenchSession.h"
 #include "jets/Boeing.h"
-#include "platform/Date.h"
-#include "platform/Prompt.h"
-#include "platform/QtCanvas.h"
-#include "platform/Random.h"
 
 #include <benchmark/benchmark.h>
-#include <filesystem>
-#include <random>
-#include <string>
 
 namespace quillet {
 namespace {
 
 class LoadedDeck {
 public:
-    explicit LoadedDeck(const std::string& type)
-        : m_folder(std::filesystem::temp_directory_path() /
-                   ("quillet-bench-" + std::to_string(std::random_device()()))),
-          session(prompt, random, clock, m_folder), m_type(type)
+    explicit LoadedDeck(const std::string& type) : m_bench(type)
     {
-        std::filesystem::create_directories(m_folder);
-        session.makeCanvas = [](double width, double height) {
-            return std::make_unique<QtCanvas>(width, height);
-        };
-        session.currentType = [this] { return m_type; };
+        Session& session = m_bench.session;
         form = std::make_unique<Boeing>(session);
-        // No aircraft folder: the reader only reports, and the set-up's table stays.
         form->Form_Load();
         LoadState& state = session.state;
         for (int i = 0; i < state.stationsInUse(); ++i)
@@ -36,34 +22,21 @@ public:
         state.loadweight = state.sumOfWeights();
         session.messages.take();
     }
-    ~LoadedDeck()
-    {
-        form.reset();
-        std::error_code ec;
-        std::filesystem::remove_all(m_folder, ec);
-    }
 
     // Over the last cargo station, so that a label is drawn too.
     void pointAtCargo()
     {
-        const LoadState& state = session.state;
+        const LoadState& state = m_bench.session.state;
         const int last = state.stationsInUse() - 1;
         form->Picture1_MouseMove(0, 0, state.stationpx[last], state.stationpy[last]);
         form->runSummary();
     }
 
 private:
-    std::filesystem::path m_folder;
-    ScriptedPrompt prompt;
-    SeededRandom random;
-    FixedClock clock{{2001, 3, 7}};
+    BenchSession m_bench;
 
 public:
-    Session session;
     std::unique_ptr<Boeing> form;
-
-private:
-    std::string m_type;
 };
 
 void pointerMove(benchmark::State& run, const std::string& type)

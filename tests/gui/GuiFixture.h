@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -21,6 +22,17 @@
 #include <vector>
 
 namespace quillet {
+
+// The colours found in a pixel rectangle of a picture, edges included.
+inline std::set<QRgb> coloursIn(const QImage& image, int left, int top, int right, int bottom)
+{
+    std::set<QRgb> found;
+    for (int y = top; y <= bottom; ++y) {
+        for (int x = left; x <= right; ++x)
+            found.insert(image.pixel(x, y) & 0xFFFFFF);
+    }
+    return found;
+}
 
 // The whole program running on a program folder of its own.
 class GuiFixture : public ::testing::Test {

@@ -3,12 +3,12 @@
 #include "BoeingLayout.h"
 #include "cfgfile/inputoutput.h"
 #include "load/PresetDraws.h"
+#include "load/StationInput.h"
 #include "load/StationLabel.h"
 #include "platform/Format.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace quillet {
 
@@ -20,7 +20,6 @@ constexpr double kPersonHalfWidth = 0.75; // feet, for the hover labels
 constexpr double kCargoHalfWidth = 2.5;
 constexpr double kSeatDotRadius = 45;
 constexpr double kPicturePoints = 8.25;
-constexpr double kLabelPoints = 8;
 
 // The B767-300ER's lower deck is also limited by zone: the first sixteen cargo stations after its
 // 269 persons form the forward zone, the rest the aft one.
@@ -31,21 +30,6 @@ constexpr float kAftZoneLimit = 37800;
 
 constexpr std::string_view kContainerOverload = " Container Overload";
 constexpr std::string_view kZoneOverload = " Zone Overload";
-
-// The weight typed into an input box: its leading number, taken as it is, negative numbers too. A
-// number a single-precision weight cannot hold counts as no number.
-float typedWeight(const std::optional<std::string>& answer)
-{
-    const double value = val(answer.value_or(std::string()));
-    if (!(std::fabs(value) <= std::numeric_limits<float>::max()))
-        return 0;
-    return static_cast<float>(value);
-}
-
-std::int16_t toMarker(int twips)
-{
-    return static_cast<std::int16_t>(std::clamp(twips, -32768, 32767));
-}
 
 } // namespace
 
@@ -242,12 +226,7 @@ void Boeing::Picture1_MouseMove(int, int, double X, double Y)
         std::string text = stationLabelText(state.stationname[i], state.stationweight[i]);
         if (state.stationweight[i] > state.stationmax[i])
             text += state.stationmsg[i];
-        picture.setFont(kLabelPoints, false);
-        picture.setFillColor(kWhite);
-        picture.setFillStyle(FillStyle::Solid);
         drawStationLabel(picture, text, state.stationpx[i], state.stationpy[i], placement);
-        picture.setFillStyle(FillStyle::Transparent);
-        picture.setFillColor(kGreen);
     }
     cargocheck();
 }

@@ -2,6 +2,7 @@
 
 #include "platform/Format.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace quillet {
@@ -14,6 +15,11 @@ int DeckMapping::stationX(double x) const
 int DeckMapping::stationY(double y) const
 {
     return static_cast<int>(roundHalfEven(toY(y)));
+}
+
+std::int16_t toMarker(int twips)
+{
+    return static_cast<std::int16_t>(std::clamp(twips, -32768, 32767));
 }
 
 void DeckPen::line(FeetPoint from, FeetPoint to)

@@ -2,6 +2,7 @@
 
 #include "platform/Canvas.h"
 
+#include <cstdint>
 #include <initializer_list>
 #include <span>
 #include <string_view>
@@ -28,6 +29,9 @@ struct DeckMapping {
     int stationX(double x) const;
     int stationY(double y) const;
 };
+
+// A drawn position as the marker arrays (stationpx, stationpy) hold it: 16 bits, clamped.
+std::int16_t toMarker(int twips);
 
 // Draws aircraft geometry in feet through a mapping, in black.
 class DeckPen {

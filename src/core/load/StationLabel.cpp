@@ -12,6 +12,9 @@ std::string stationLabelText(std::string_view name, float weight)
 double drawStationLabel(Canvas& canvas, std::string_view text, double stationX, double stationY,
                         const LabelPlacement& placement)
 {
+    canvas.setFont(kStationLabelPoints, false);
+    canvas.setFillColor(kWhite);
+    canvas.setFillStyle(FillStyle::Solid);
     const double width = canvas.textWidth(text);
     const double height = canvas.textHeight(text);
     double left = stationX + placement.gap;
@@ -22,6 +25,8 @@ double drawStationLabel(Canvas& canvas, std::string_view text, double stationX, 
     canvas.box(left, top, left + width, top + height, kBlack);
     canvas.setCurrentPoint(left, top);
     canvas.print(text);
+    canvas.setFillStyle(FillStyle::Transparent);
+    canvas.setFillColor(kGreen);
     return left;
 }
 

@@ -21,9 +21,12 @@ struct LabelPlacement {
     bool leftAtLimit = false;
 };
 
-// Draws an information label: a box of the text's size, outlined black and filled with the canvas's
-// current fill, its left edge placed as above and its middle on the station's row, and the text in
-// it. Returns the left edge. The caller chooses font and fill beforehand.
+// The font size of information labels, in points.
+inline constexpr double kStationLabelPoints = 8;
+
+// Draws an information label in plain text of that size: a white box of the text's size, outlined
+// black, its left edge placed as above and its middle on the station's row, and the text in it. Leaves
+// the fill transparent with green as its colour. Returns the left edge.
 double drawStationLabel(Canvas& canvas, std::string_view text, double stationX, double stationY,
                         const LabelPlacement& placement);
 

@@ -4,6 +4,8 @@
 #include "LoadFormWindow.h"
 #include "MainWindow.h"
 #include "TextWindow.h"
+#include "freighter/FreighterForms.h"
+#include "freighter/FreighterWindow.h"
 #include "platform/QtCanvas.h"
 #include "platform/QtPrompt.h"
 #include "jets/JetForms.h"
@@ -33,6 +35,8 @@ Application::Application(std::filesystem::path programFolder, Prompt* prompt)
     registerRegionalWindows(*this);
     registerJetForms(m_forms);
     registerJetWindows(*this);
+    registerFreighterForms(m_forms);
+    registerFreighterWindows(*this);
 
     showMessage = [this](const std::string& text) {
         QWidget* parent = QApplication::activeWindow();

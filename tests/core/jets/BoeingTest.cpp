@@ -1,3 +1,4 @@
+#include "Drawing.h"
 #include "JetRig.h"
 #include "jets/JetForms.h"
 #include "jets/data737.h"
@@ -220,12 +221,7 @@ TEST(JetDrawing, DecksAreDrawnAroundTheirOrigins)
 
     // The nose (48.035, 0) and the tail (-42.183, 0) of the outline.
     const auto lines = canvas.ops(DrawOp::Kind::Line);
-    const auto touches = [&](double x, double y) {
-        return std::any_of(lines.begin(), lines.end(), [&](const DrawOp& op) {
-            return (std::fabs(op.x1 - x) < 0.01 && std::fabs(op.y1 - y) < 0.01) ||
-                   (std::fabs(op.x2 - x) < 0.01 && std::fabs(op.y2 - y) < 0.01);
-        });
-    };
+    const auto touches = [&](double x, double y) { return lineEndsNear(lines, x, y, 0.01); };
     EXPECT_TRUE(touches(1397.55, 560));
     EXPECT_TRUE(touches(7712.81, 560));
     // Economy seats are 1.5 ft boxes with their top-left corner 0.75 ft forward and outboard.

@@ -53,6 +53,7 @@ TEST(StationLabel, OpensRightOfItsStationUnlessItWouldPassTheLimit)
     RecordingCanvas canvas(9500, 2100);
     const std::string text = stationLabelText("Container 12", 3499.5f);
     EXPECT_EQ(text, " Container 12 3500 lb.");
+    canvas.setFont(kStationLabelPoints, false);
     const double width = canvas.textWidth(text);
 
     EXPECT_DOUBLE_EQ(drawStationLabel(canvas, text, 1000, 500, {100}), 1100);
@@ -64,6 +65,11 @@ TEST(StationLabel, OpensRightOfItsStationUnlessItWouldPassTheLimit)
                      station + 1 - 100 - width);
 
     const DrawOp box = canvas.ops(DrawOp::Kind::Box).front();
+    EXPECT_EQ(box.fillStyle, FillStyle::Solid);
+    EXPECT_EQ(box.fillColor, kWhite);
+    EXPECT_EQ(box.colour, kBlack);
+    EXPECT_EQ(canvas.fillStyle(), FillStyle::Transparent);
+    EXPECT_EQ(canvas.fillColor(), kGreen);
     EXPECT_DOUBLE_EQ(box.x2 - box.x1, width);
     EXPECT_DOUBLE_EQ(box.y1, 500 - canvas.textHeight(text) / 2);
     const DrawOp print = canvas.ops(DrawOp::Kind::Text).front();

@@ -1,26 +1,18 @@
+#include "Golden.h"
+
 #include "JetRig.h"
 
-#include <cstdlib>
-#include <fstream>
 #include <gtest/gtest.h>
 
 namespace quillet {
 namespace {
 
-// The station file a jet type writes on its first run: its built-in table with every weight 0,
-// compared byte for byte with a file checked once by hand against the type's published table.
+// The station file a jet type writes on its first run: its built-in table with every weight 0.
 void expectFirstStationFile(const std::string& type)
 {
     JetRig rig;
     rig.open(type);
-    const std::string written = rig.dir.read(type + ".cfg");
-    const auto goldenFile = std::filesystem::path(QUILLET_TEST_DATA) / (type + ".cfg");
-    // A new type's file is written once this way, then checked by hand before it is committed.
-    if (std::getenv("QUILLET_WRITE_GOLDEN"))
-        std::ofstream(goldenFile, std::ios::binary) << written;
-    const std::string golden = TempDir::readFile(goldenFile);
-    ASSERT_FALSE(golden.empty()) << "no golden file for " << type;
-    EXPECT_EQ(written, golden) << type;
+    expectGoldenFile(type + ".cfg", rig.dir.read(type + ".cfg"));
 }
 
 TEST(JetGoldenStationFiles, B737_300)

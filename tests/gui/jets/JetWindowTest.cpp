@@ -33,13 +33,7 @@ protected:
     // The colours found in a pixel rectangle of the deck picture.
     std::set<QRgb> colours(int left, int top, int right, int bottom) const
     {
-        const QImage& image = dynamic_cast<QtCanvas&>(boeing().Picture1()).image();
-        std::set<QRgb> found;
-        for (int y = top; y <= bottom; ++y) {
-            for (int x = left; x <= right; ++x)
-                found.insert(image.pixel(x, y) & 0xFFFFFF);
-        }
-        return found;
+        return coloursIn(dynamic_cast<QtCanvas&>(boeing().Picture1()).image(), left, top, right, bottom);
     }
 };
 
