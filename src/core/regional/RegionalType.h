@@ -87,21 +87,22 @@ struct RegionalMenus {
     MenuItem mnuheav; // named "mnuhev" on one form
 };
 
-// A whole number drawn as base + Int(spread × draw), or base − Int(spread × draw).
+// A whole number drawn as base + Int(spread × draw / divisor), or base − Int(spread × draw / divisor).
 struct CountDraw {
     int base = 0;
     int sign = 1;
     int spread = 0;
+    int divisor = 1;
 };
 
-constexpr CountDraw plus(int base, int spread)
+constexpr CountDraw plus(int base, int spread, int divisor = 1)
 {
-    return {base, 1, spread};
+    return {base, 1, spread, divisor};
 }
 
-constexpr CountDraw minus(int base, int spread)
+constexpr CountDraw minus(int base, int spread, int divisor = 1)
 {
-    return {base, -1, spread};
+    return {base, -1, spread, divisor};
 }
 
 // A seat drawn as Int(count × draw + first): seats first to first + count − 1.
