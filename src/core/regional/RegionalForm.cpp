@@ -13,9 +13,8 @@ std::string occupiedTooltip(std::string_view name, float weight)
 }
 
 RegionalForm::RegionalForm(Session& session, const RegionalType& type)
-    : RegionalLoadForm(session, {type.form, type.caption, type.layout, type.menus, type.limits, type.roles,
-                                 type.presets, static_cast<int>(type.stations.size())}),
-      m_type(type), m_cabin(session.makeCanvas(type.layout.cabin.width, type.layout.cabin.height))
+    : RegionalLoadForm(session, type),
+      m_cabin(session.makeCanvas(type.layout.cabin.width, type.layout.cabin.height))
 {
     for (const StationRow& row : type.stations) {
         location.push_back({row.location, std::string(kEmptyTooltip)});
@@ -28,32 +27,24 @@ RegionalForm::RegionalForm(Session& session, const RegionalType& type)
 
 void RegionalForm::drawCabin()
 {
-    drawCabinView(*m_cabin, m_type);
+    drawCabinView(*m_cabin, type());
 }
 
 void RegionalForm::Form_Load()
 {
-    setUpLimits();
-    LoadState& state = m_session.state;
-    for (int i = 0; i < stationCount(); ++i) {
-        const StationRow& row = m_type.stations[static_cast<std::size_t>(i)];
-        state.stationname[i] = row.name;
-        state.stationx[i] = row.x;
-        state.stationy[i] = row.y;
-        state.stationz[i] = 0;
-    }
+    setUpType();
     // Positions another regional type left behind would still widen the balance span.
+    LoadState& state = m_session.state;
     for (int i = stationCount(); i <= kClearedPositionsThrough; ++i) {
         state.stationx[i] = 0;
         state.stationy[i] = 0;
         state.stationz[i] = 0;
     }
-    state.loadweight = 0;
 
     for (int i = 0; i < stationCount(); ++i)
         showEmpty(i);
 
-    if (m_type.readsStoredLoadAtSetUp)
+    if (type().readsStoredLoadAtSetUp)
         mnuload_Click();
     runSummary();
 }
@@ -83,7 +74,7 @@ void RegionalForm::location_Click(int index)
 
 void RegionalForm::Form_LostFocus()
 {
-    if (m_type.refreshesMainOnLostFocus)
+    if (type().refreshesMainOnLostFocus)
         m_session.refreshMain();
 }
 
@@ -106,17 +97,6 @@ void RegionalForm::showStations(int count)
         else
             showEmpty(i);
     }
-}
-
-void RegionalForm::nopass()
-{
-    const StationRoles& roles = m_type.roles;
-    int count = 0;
-    for (int i = roles.firstPassenger; i <= roles.lastPassenger; ++i) {
-        if (m_session.state.stationweight[i] > 0)
-            ++count;
-    }
-    m_session.state.npax = count;
 }
 
 void RegionalForm::showLoaded(int station)

@@ -38,8 +38,6 @@ class RegionalForm final : public RegionalLoadForm {
 public:
     RegionalForm(Session& session, const RegionalType& type);
 
-    const RegionalType& type() const { return m_type; }
-
     // One hot spot and one marker per station of the type, indexed like the stations.
     std::vector<HotSpot> location;
     std::vector<Marker> Shape1;
@@ -55,11 +53,8 @@ public:
 
     // Brings every hot spot and marker in line with the station weights.
     void redraw() override;
-    // Counts the loaded passenger seats into npax.
-    void nopass() override;
 
 private:
-    int stationCount() const { return static_cast<int>(location.size()); }
     void showLoaded(int station);
     void showEmpty(int station);
     std::string occupiedText(int station) const;
@@ -68,7 +63,6 @@ private:
     // The presets show every station of the form, whatever count a station file gave.
     void showPresetLoad() override;
 
-    const RegionalType& m_type;
     std::unique_ptr<Canvas> m_cabin;
 };
 

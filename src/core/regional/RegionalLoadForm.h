@@ -16,27 +16,15 @@ namespace quillet {
 inline constexpr std::string_view kPaxDetailsTitle = "Pax Details";
 inline constexpr std::string_view kDefaultWeight = "170";
 
-// The parts of a regional type's table that every regional form uses the same way.
-struct RegionalFormData {
-    std::string_view form; // the form's name in the registry
-    std::string_view caption;
-    const RegionalLayout& layout;
-    const RegionalMenus& menus;
-    const RegionalLimits& limits;
-    const StationRoles& roles;
-    const RegionalPresets& presets;
-    int stations = 0; // how many stations the form shows, from 0
-};
-
 // What every regional load form has, whether its cabin is a picture with hot spots or a seat map the
 // program draws: the photograph, the weight summary's labels, the two balance pictures, the File
-// menu and the three presets of the regional family. The window lays these out from data().layout
-// and builds the menus from data().menus.
+// menu and the three presets of the regional family. The window lays these out from type().layout
+// and builds the menus from type().menus.
 class RegionalLoadForm : public LoadForm {
 public:
-    RegionalLoadForm(Session& session, const RegionalFormData& data);
+    RegionalLoadForm(Session& session, const RegionalType& type);
 
-    const RegionalFormData& data() const { return m_data; }
+    const RegionalType& type() const { return m_type; }
 
     // The photograph's file; empty when it is missing, and the picture box stays blank.
     std::filesystem::path photo;
@@ -56,10 +44,13 @@ public:
 
     // Brings the cabin in line with the station weights. It does not run the summary.
     virtual void redraw() = 0;
+    // Counts the loaded passenger seats into npax.
+    void nopass() override;
 
 protected:
-    // Loads the photograph and writes the type's limits and counts into the load state.
-    void setUpLimits();
+    int stationCount() const { return static_cast<int>(m_type.stations.size()); }
+    // Loads the photograph and writes the type's limits, counts and stations into the load state.
+    void setUpType();
     // Shows the load a preset has left, before the summary runs.
     virtual void showPresetLoad() { redraw(); }
 
@@ -67,7 +58,7 @@ private:
     template <class Preset>
     void applyPreset(const Preset& preset);
 
-    RegionalFormData m_data;
+    const RegionalType& m_type;
     std::unique_ptr<Canvas> m_picture4;
     std::unique_ptr<Canvas> m_picture3;
 };

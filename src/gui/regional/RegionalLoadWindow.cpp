@@ -12,11 +12,11 @@ namespace quillet {
 RegionalLoadWindow::RegionalLoadWindow(RegionalLoadForm& form, Application& app)
     : LoadFormWindow(form, app), m_regionalForm(form)
 {
-    const RegionalFormData& data = form.data();
-    const RegionalLayout& layout = data.layout;
-    setObjectName(latin(data.form));
-    setWindowTitle(latin(data.caption));
-    setAccessibleName(latin(data.caption));
+    const RegionalType& type = form.type();
+    const RegionalLayout& layout = type.layout;
+    setObjectName(latin(type.form));
+    setWindowTitle(latin(type.caption));
+    setAccessibleName(latin(type.caption));
     buildMenus();
 
     m_client = new QWidget(this);
@@ -38,7 +38,7 @@ PictureBox* RegionalLoadWindow::pictureBox(std::string_view name, const TwipsRec
 
 void RegionalLoadWindow::buildMenus()
 {
-    const RegionalMenus& menus = m_regionalForm.data().menus;
+    const RegionalMenus& menus = m_regionalForm.type().menus;
     const auto item = [this](QMenu* menu, const MenuItem& entry, void (RegionalLoadForm::*handler)()) {
         addMenuItem(menu, entry,
                     [this, handler] { m_app.handle([this, handler] { (m_regionalForm.*handler)(); }); });
