@@ -8,7 +8,8 @@ namespace quillet {
 
 namespace {
 
-constexpr double kEdge = 15;        // free border around the fuselage
+// Free border around the fuselage: two pixels, as the picture box's own border covers the outermost.
+constexpr double kEdge = 30;
 constexpr double kBodyPadding = 45; // fuselage wall beyond the outermost hot spots
 constexpr double kInset = 30;       // a seat or hold outline inside its hot spot
 constexpr double kSeatSide = 210;
