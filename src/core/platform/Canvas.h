@@ -23,6 +23,9 @@ public:
 
     // Erases the picture to its background and puts the text position back at the top left.
     void clear();
+    // Keeps what is drawn now as the picture's background picture, which clear() restores from then
+    // on: a seat map drawn once under markers that come and go.
+    void keepAsBackground() { doKeepAsBackground(); }
     void line(double x1, double y1, double x2, double y2, Rgb colour);
     // A rectangle with a one-pixel outline, filled with the current fill style and colour.
     void box(double x1, double y1, double x2, double y2, Rgb outline);
@@ -62,7 +65,9 @@ public:
 
 protected:
     // The drawing itself, in device pixels; the state above tells how.
+    // Restores the background picture kept last, or a blank picture when none was.
     virtual void doClear() = 0;
+    virtual void doKeepAsBackground() = 0;
     virtual void doLine(double x1, double y1, double x2, double y2, Rgb colour) = 0;
     virtual void doBox(double x1, double y1, double x2, double y2, Rgb outline) = 0;
     virtual void doCircle(double cx, double cy, double radius, Rgb outline) = 0;

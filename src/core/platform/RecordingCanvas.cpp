@@ -36,6 +36,12 @@ void RecordingCanvas::doClear()
     record(DrawOp::Kind::Clear);
 }
 
+void RecordingCanvas::doKeepAsBackground()
+{
+    m_background = std::move(m_ops);
+    m_ops.clear();
+}
+
 void RecordingCanvas::doLine(double x1, double y1, double x2, double y2, Rgb colour)
 {
     DrawOp& op = record(DrawOp::Kind::Line);

@@ -33,12 +33,16 @@ public:
     RecordingCanvas(double widthTwips, double heightTwips);
 
     const std::vector<DrawOp>& ops() const { return m_ops; }
+    // What was drawn before keepAsBackground(): the picture clear() goes back to. Those operations
+    // leave ops().
+    const std::vector<DrawOp>& backgroundOps() const { return m_background; }
     // The operations of one kind, in drawing order.
     std::vector<DrawOp> ops(DrawOp::Kind kind) const;
     void forget() { m_ops.clear(); }
 
 protected:
     void doClear() override;
+    void doKeepAsBackground() override;
     void doLine(double x1, double y1, double x2, double y2, Rgb colour) override;
     void doBox(double x1, double y1, double x2, double y2, Rgb outline) override;
     void doCircle(double cx, double cy, double radius, Rgb outline) override;
@@ -51,6 +55,7 @@ private:
     DrawOp& record(DrawOp::Kind kind);
 
     std::vector<DrawOp> m_ops;
+    std::vector<DrawOp> m_background;
 };
 
 } // namespace quillet

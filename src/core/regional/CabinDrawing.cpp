@@ -8,7 +8,8 @@ namespace quillet {
 
 namespace {
 
-constexpr double kEdge = 15;        // free border around the fuselage
+// Free border around the fuselage: two pixels, as the picture box's own border covers the outermost.
+constexpr double kEdge = 30;
 constexpr double kBodyPadding = 45; // fuselage wall beyond the outermost hot spots
 constexpr double kInset = 30;       // a seat or hold outline inside its hot spot
 constexpr double kSeatSide = 210;
@@ -40,29 +41,30 @@ struct Fuselage {
     }
 };
 
-Fuselage fuselageOf(const RegionalType& type, double width, double height)
+Fuselage fuselageOf(const CabinPlan& plan, double width, double height)
 {
-    const auto& stations = type.stations;
-    const auto at = [&](int station) -> const TwipsRect& {
-        return stations[static_cast<std::size_t>(station)].location;
-    };
     double top = height;
     double bottom = 0;
     double right = 0;
-    for (const StationRow& row : stations) {
-        top = std::min<double>(top, row.location.top);
-        bottom = std::max<double>(bottom, row.location.bottom());
-        right = std::max<double>(right, row.location.right());
-    }
+    const auto extend = [&](const TwipsRect& area) {
+        top = std::min<double>(top, area.top);
+        bottom = std::max<double>(bottom, area.bottom());
+        right = std::max<double>(right, area.right());
+    };
     double crewLeft = width;
     double crewRight = 0;
-    for (int crew : type.roles.crew) {
-        crewLeft = std::min<double>(crewLeft, at(crew).left);
-        crewRight = std::max<double>(crewRight, at(crew).right());
+    for (const TwipsRect& seat : plan.crewSeats) {
+        extend(seat);
+        crewLeft = std::min<double>(crewLeft, seat.left);
+        crewRight = std::max<double>(crewRight, seat.right());
     }
     double cabinStart = width;
-    for (int seat = type.roles.firstPassenger; seat <= type.roles.lastPassenger; ++seat)
-        cabinStart = std::min<double>(cabinStart, at(seat).left);
+    for (const TwipsRect& seat : plan.passengerSeats) {
+        extend(seat);
+        cabinStart = std::min<double>(cabinStart, seat.left);
+    }
+    for (const CabinPlan::Compartment& hold : plan.holds)
+        extend(hold.area);
 
     Fuselage body;
     body.noseTip = 2 * kEdge;
@@ -144,26 +146,15 @@ void drawCockpit(Canvas& picture, const Fuselage& body)
     picture.line(body.bulkhead, cy + kDoorWidth / 2, body.bulkhead, body.bottom, kBlack);
 }
 
-// Calls draw(row) for every station whose marker is of that kind: circles mark seats, hatched
-// boxes holds.
-template <class Draw>
-void forStations(const RegionalType& type, MarkerKind kind, Draw draw)
+void drawSeats(Canvas& picture, const std::vector<TwipsRect>& seats, const Fuselage& body)
 {
-    for (const StationRow& row : type.stations) {
-        if (row.marker.kind == kind)
-            draw(row);
-    }
-}
-
-void drawSeats(Canvas& picture, const RegionalType& type, const Fuselage& body)
-{
-    forStations(type, MarkerKind::Circle, [&](const StationRow& row) {
-        const Outline seat = seatOutline(row.location, body);
+    for (const TwipsRect& area : seats) {
+        const Outline seat = seatOutline(area, body);
         picture.box(seat.left, seat.top, seat.right, seat.bottom, kBlack);
         // The backrest, on the aft side: everybody faces the nose.
         const double back = seat.right - std::max(45.0, (seat.right - seat.left) / 4);
         picture.line(back, seat.top, back, seat.bottom, kBlack);
-    });
+    }
 }
 
 // The compartment's name in its middle, in the largest small font that fits; none in a bay too
@@ -183,22 +174,38 @@ void nameCompartment(Canvas& picture, const Outline& hold, std::string_view name
     }
 }
 
-void drawHolds(Canvas& picture, const RegionalType& type, const Fuselage& body)
+void drawHolds(Canvas& picture, const CabinPlan& plan, const Fuselage& body)
 {
-    forStations(type, MarkerKind::HatchedBox, [&](const StationRow& row) {
-        const Outline hold = holdOutline(row.location, body);
+    for (const CabinPlan::Compartment& compartment : plan.holds) {
+        const Outline hold = holdOutline(compartment.area, body);
         picture.box(hold.left, hold.top, hold.right, hold.bottom, kBlack);
-        nameCompartment(picture, hold, row.name);
-    });
+        nameCompartment(picture, hold, compartment.name);
+    }
 }
 
 } // namespace
 
-void drawCabinView(Canvas& picture, const RegionalType& type)
+CabinPlan cabinPlan(const RegionalType& type)
+{
+    const auto& stations = type.stations;
+    CabinPlan plan;
+    for (int crew : type.roles.crew)
+        plan.crewSeats.push_back(stations[static_cast<std::size_t>(crew)].location);
+    for (int seat = type.roles.firstPassenger; seat <= type.roles.lastPassenger; ++seat)
+        plan.passengerSeats.push_back(stations[static_cast<std::size_t>(seat)].location);
+    // Holds and bays are the stations marked with a hatched box.
+    for (const StationRow& row : stations) {
+        if (row.marker.kind == MarkerKind::HatchedBox)
+            plan.holds.push_back({row.location, row.name});
+    }
+    return plan;
+}
+
+void drawCabinView(Canvas& picture, const CabinPlan& plan)
 {
     const double width = picture.scaleWidth();
     const double height = picture.scaleHeight();
-    const Fuselage body = fuselageOf(type, width, height);
+    const Fuselage body = fuselageOf(plan, width, height);
 
     picture.clear();
     picture.setFillStyle(FillStyle::Solid);
@@ -209,8 +216,14 @@ void drawCabinView(Canvas& picture, const RegionalType& type)
 
     drawFuselage(picture, body);
     drawCockpit(picture, body);
-    drawSeats(picture, type, body);
-    drawHolds(picture, type, body);
+    drawSeats(picture, plan.crewSeats, body);
+    drawSeats(picture, plan.passengerSeats, body);
+    drawHolds(picture, plan, body);
+}
+
+void drawCabinView(Canvas& picture, const RegionalType& type)
+{
+    drawCabinView(picture, cabinPlan(type));
 }
 
 } // namespace quillet

@@ -3,11 +3,31 @@
 #include "RegionalType.h"
 #include "platform/Canvas.h"
 
+#include <string_view>
+#include <vector>
+
 namespace quillet {
 
-// Draws the cabin top view of a regional type in black on white, nose to the left: the fuselage
-// outline with its cockpit, one outline per seat and the holds. Seats and holds are laid where the
-// type's hot spots are, so every hot spot sits on what it stands for.
+// What a cabin top view shows, as the areas of the picture (in twips) where each part is drawn: a seat
+// as a square on its area's centre, a hold or bay as an outline filling its area, with its name.
+struct CabinPlan {
+    struct Compartment {
+        TwipsRect area;
+        std::string_view name;
+    };
+    std::vector<TwipsRect> crewSeats;
+    std::vector<TwipsRect> passengerSeats;
+    std::vector<Compartment> holds;
+};
+
+// The plan of a regional type's cabin: every seat and hold where its hot spot is, so that every hot
+// spot sits on what it stands for.
+CabinPlan cabinPlan(const RegionalType& type);
+
+// Draws a cabin top view in black on white, nose to the left: the fuselage outline with its
+// cockpit, one outline per seat and the holds. The fuselage is sized to hold everything the plan
+// places.
+void drawCabinView(Canvas& picture, const CabinPlan& plan);
 void drawCabinView(Canvas& picture, const RegionalType& type);
 
 } // namespace quillet

@@ -1,5 +1,6 @@
 #include "RegionalForms.h"
 
+#include "CRJ200.h"
 #include "RegionalForm.h"
 
 #include <string>
@@ -12,6 +13,8 @@ void registerRegionalForms(FormRegistry& forms)
         forms.add(std::string(type->form),
                   [type](Session& session) { return std::make_unique<RegionalForm>(session, *type); });
     }
+    forms.add(std::string(crj200Type().form),
+              [](Session& session) { return std::make_unique<CRJ200>(session); });
 }
 
 } // namespace quillet

@@ -4,7 +4,7 @@
 
 namespace quillet {
 
-// Adds the makers of the forms "Beech", "Emb120" and "DHC8".
+// Adds the makers of the forms "Beech", "Emb120", "DHC8" and "CRJ200".
 void registerRegionalForms(FormRegistry& forms);
 
 } // namespace quillet

@@ -28,7 +28,8 @@ constexpr MarkerSpec hatched(int left, int top, int width, int height)
     return {MarkerKind::HatchedBox, {left, top, width, height}};
 }
 
-// One load station: its name and position in feet, and where the cabin picture shows it.
+// One load station: its name and position in feet, and where a seat-label form's cabin picture shows
+// it. A form that draws its own seat map places its stations from their positions instead.
 struct StationRow {
     std::string_view name;
     float x = 0;
@@ -36,6 +37,12 @@ struct StationRow {
     TwipsRect location; // the clickable hot spot
     MarkerSpec marker;
 };
+
+// A station of a form that draws its own seat map: no hot spot, no marker.
+constexpr StationRow onSeatMap(std::string_view name, float x, float y)
+{
+    return {name, x, y, {}, {}};
+}
 
 // The limits and counts the type writes into the load state.
 struct RegionalLimits {
@@ -87,21 +94,22 @@ struct RegionalMenus {
     MenuItem mnuheav; // named "mnuhev" on one form
 };
 
-// A whole number drawn as base + Int(spread × draw), or base − Int(spread × draw).
+// A whole number drawn as base + Int(spread × draw / divisor), or base − Int(spread × draw / divisor).
 struct CountDraw {
     int base = 0;
     int sign = 1;
     int spread = 0;
+    int divisor = 1;
 };
 
-constexpr CountDraw plus(int base, int spread)
+constexpr CountDraw plus(int base, int spread, int divisor = 1)
 {
-    return {base, 1, spread};
+    return {base, 1, spread, divisor};
 }
 
-constexpr CountDraw minus(int base, int spread)
+constexpr CountDraw minus(int base, int spread, int divisor = 1)
 {
-    return {base, -1, spread};
+    return {base, -1, spread, divisor};
 }
 
 // A seat drawn as Int(count × draw + first): seats first to first + count − 1.
@@ -156,7 +164,7 @@ struct RegionalPresets {
     float avionicsLoad = 0; // put into the avionics bay by every preset of a type that has one
 };
 
-// Everything that makes one of the three seat-label forms what it is.
+// Everything that makes a regional form what it is.
 struct RegionalType {
     std::string_view type; // the type string of the main window's aircraft list
     std::string_view form; // the form's name in the registry
@@ -180,8 +188,10 @@ inline constexpr int kClearedPositionsThrough = 52;
 const RegionalType& beechType();
 const RegionalType& emb120Type();
 const RegionalType& dhc8Type();
+// The CRJ-200ER, whose form draws its own seat map: its stations have no hot spots or markers.
+const RegionalType& crj200Type();
 
-// The three types, in the order of the main window's list.
+// The three types of the seat-label forms, in the order of the main window's list.
 const std::array<const RegionalType*, 3>& regionalTypes();
 
 } // namespace quillet

@@ -83,8 +83,16 @@ void QtCanvas::fillSpan(int left, int right, int y)
 
 void QtCanvas::doClear()
 {
-    m_image.fill(m_background);
+    if (m_backgroundImage.isNull())
+        m_image.fill(m_background);
+    else
+        m_image = m_backgroundImage; // shared until the next drawing takes its rows
     changed();
+}
+
+void QtCanvas::doKeepAsBackground()
+{
+    m_backgroundImage = m_image;
 }
 
 void QtCanvas::doLine(double x1, double y1, double x2, double y2, Rgb colour)

@@ -28,6 +28,7 @@ public:
 
 protected:
     void doClear() override;
+    void doKeepAsBackground() override;
     void doLine(double x1, double y1, double x2, double y2, Rgb colour) override;
     void doBox(double x1, double y1, double x2, double y2, Rgb outline) override;
     void doCircle(double cx, double cy, double radius, Rgb outline) override;
@@ -63,6 +64,7 @@ private:
     const RenderedText& rendered(std::string_view text);
 
     QImage m_image;
+    QImage m_backgroundImage; // null until a background is kept
     QRgb* m_bits = nullptr;
     std::ptrdiff_t m_stride = 0;
     int m_width = 0;

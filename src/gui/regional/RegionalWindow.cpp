@@ -3,16 +3,11 @@
 #include "platform/PictureBox.h"
 #include "platform/QtCanvas.h"
 #include "platform/Twips.h"
-#include "platform/Widgets.h"
 #include "regional/RegionalForm.h"
-#include "regional/RegionalType.h"
 #include "shell/Application.h"
-#include "shell/SummaryPanel.h"
 
 #include <QFocusEvent>
-#include <QFrame>
 #include <QLabel>
-#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -71,21 +66,10 @@ private:
 };
 
 RegionalWindow::RegionalWindow(RegionalForm& form, Application& app)
-    : LoadFormWindow(form, app), m_regional(form)
+    : RegionalLoadWindow(form, app), m_regional(form)
 {
-    const RegionalType& type = form.type();
-    const RegionalLayout& layout = type.layout;
-    setObjectName(latin(type.form));
-    setWindowTitle(latin(type.caption));
-    buildMenus();
-
-    m_client = new QWidget(this);
-    m_client->setFixedSize(twipsRect(0, 0, layout.clientWidth, layout.clientHeight).size());
-    setCentralWidget(m_client);
-
-    auto* cabin = new PictureBox(m_client);
-    cabin->setObjectName(latin(layout.cabinName));
-    place(cabin, layout.cabin);
+    const RegionalLayout& layout = form.type().layout;
+    PictureBox* cabin = pictureBox(layout.cabinName, layout.cabin, QStringLiteral("Cabin seen from above"));
     cabin->setCanvas(dynamic_cast<QtCanvas*>(&form.cabin()));
     // Markers under the hot spots, so that every press reaches a hot spot.
     for (const Marker& marker : form.Shape1) {
@@ -103,42 +87,16 @@ RegionalWindow::RegionalWindow(RegionalForm& form, Application& app)
         m_hotSpots.push_back(spot);
     }
 
-    m_photo = new PictureBox(m_client);
-    m_photo->setObjectName(latin(layout.photoName));
-    place(m_photo, layout.photo);
-
-    m_summary = std::make_unique<SummaryPanel>(m_client, layout.summary, form);
-
     sync();
-}
-
-void RegionalWindow::buildMenus()
-{
-    const RegionalMenus& menus = m_regional.type().menus;
-    const auto item = [this](QMenu* menu, const MenuItem& entry, void (RegionalForm::*handler)()) {
-        addMenuItem(menu, entry, [this, handler] { m_app.handle([this, handler] { (m_regional.*handler)(); }); });
-    };
-    QMenu* file = menuBar()->addMenu(latin(menus.mnufile.caption));
-    file->setObjectName(latin(menus.mnufile.name));
-    item(file, menus.mnuload, &RegionalForm::mnuload_Click);
-    item(file, menus.mnusave, &RegionalForm::mnusave_Click);
-    QMenu* presets = menuBar()->addMenu(latin(menus.mnuauto.caption));
-    presets->setObjectName(latin(menus.mnuauto.name));
-    item(presets, menus.mnulight, &RegionalForm::mnulight_Click);
-    item(presets, menus.mnumed, &RegionalForm::mnumed_Click);
-    item(presets, menus.mnuheav, &RegionalForm::mnuheav_Click);
 }
 
 void RegionalWindow::sync()
 {
+    RegionalLoadWindow::sync();
     for (std::size_t i = 0; i < m_hotSpots.size() && i < m_regional.location.size(); ++i)
         m_hotSpots[i]->setToolTip(toQString(m_regional.location[i].tooltip));
     for (std::size_t i = 0; i < m_markers.size() && i < m_regional.Shape1.size(); ++i)
         m_markers[i]->setVisible(m_regional.Shape1[i].visible);
-
-    showPhoto(m_photo, m_regional.photo);
-
-    m_summary->sync(m_regional.labels);
 }
 
 void RegionalWindow::focusOutEvent(QFocusEvent* event)
@@ -147,16 +105,7 @@ void RegionalWindow::focusOutEvent(QFocusEvent* event)
     // its picture boxes take the focus when clicked, so this seldom happens.
     if (m_regional.type().refreshesMainOnLostFocus && m_regional.visible)
         m_app.handle([this] { m_regional.Form_LostFocus(); });
-    LoadFormWindow::focusOutEvent(event);
-}
-
-void registerRegionalWindows(Application& app)
-{
-    for (const RegionalType* type : regionalTypes()) {
-        app.addWindow(std::string(type->form), [](LoadForm& form, Application& application) -> LoadFormWindow* {
-            return new RegionalWindow(static_cast<RegionalForm&>(form), application);
-        });
-    }
+    RegionalLoadWindow::focusOutEvent(event);
 }
 
 } // namespace quillet

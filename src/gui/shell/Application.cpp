@@ -12,7 +12,7 @@
 #include "jets/JetWindow.h"
 #include "platform/Twips.h"
 #include "regional/RegionalForms.h"
-#include "regional/RegionalWindow.h"
+#include "regional/RegionalWindows.h"
 #include "shell/AboutText.h"
 
 #include <QApplication>

@@ -29,10 +29,12 @@ SummaryPanel::SummaryPanel(QWidget* client, const SummaryLayout& layout, Summary
 {
     auto* picture4 = new PictureBox(client);
     picture4->setObjectName(QStringLiteral("Picture4"));
+    picture4->setAccessibleName(QStringLiteral("Longitudinal balance"));
     place(picture4, layout.Picture4);
     picture4->setCanvas(dynamic_cast<QtCanvas*>(&form.Picture4()));
     auto* picture3 = new PictureBox(client);
     picture3->setObjectName(QStringLiteral("Picture3"));
+    picture3->setAccessibleName(QStringLiteral("Lateral balance"));
     place(picture3, layout.Picture3);
     picture3->setCanvas(dynamic_cast<QtCanvas*>(&form.Picture3()));
 

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace quillet {
 namespace {
@@ -50,45 +52,62 @@ TEST(RegionalCabin, EveryHotSpotSitsOnItsSeatOrHold)
     }
 }
 
+// Checks a cabin drawing: black outlines on white, off the outermost pixels (which the picture
+// box's border covers). Returns how far left and right it reaches.
+std::pair<double, double> expectBlackOutlinesOnWhite(const std::vector<DrawOp>& ops, const Canvas& picture)
+{
+    EXPECT_GE(ops.size(), 3u);
+    if (ops.size() < 3)
+        return {0, 0};
+    EXPECT_EQ(ops[0].kind, DrawOp::Kind::Clear);
+    EXPECT_EQ(ops[1].kind, DrawOp::Kind::Box);
+    EXPECT_EQ(ops[1].fillStyle, FillStyle::Solid);
+    EXPECT_EQ(ops[1].fillColor, kWhite);
+
+    const double width = picture.scaleWidth();
+    const double height = picture.scaleHeight();
+    double leftmost = width;
+    double rightmost = 0;
+    for (std::size_t i = 2; i < ops.size(); ++i) {
+        const DrawOp& op = ops[i];
+        if (op.kind == DrawOp::Kind::Text)
+            continue;
+        EXPECT_EQ(op.colour, kBlack);
+        EXPECT_NE(op.fillStyle, FillStyle::Solid) << "outlines only: whatever lies under them shows through";
+        for (double x : {op.x1, op.x2}) {
+            EXPECT_GE(x, kTwipsPerPixel);
+            EXPECT_LT(x, width - kTwipsPerPixel);
+        }
+        for (double y : {op.y1, op.y2}) {
+            EXPECT_GE(y, kTwipsPerPixel);
+            EXPECT_LT(y, height - kTwipsPerPixel);
+        }
+        leftmost = std::min({leftmost, op.x1, op.x2});
+        rightmost = std::max({rightmost, op.x1, op.x2});
+    }
+    return {leftmost, rightmost};
+}
+
 TEST(RegionalCabin, BlackLinesOnWhiteInsideThePicture)
 {
     for (const RegionalType* type : regionalTypes()) {
         SCOPED_TRACE(type->form);
         const auto picture = drawn(*type);
-        const auto& ops = picture->ops();
-        ASSERT_GE(ops.size(), 3u);
-        EXPECT_EQ(ops[0].kind, DrawOp::Kind::Clear);
-        EXPECT_EQ(ops[1].kind, DrawOp::Kind::Box);
-        EXPECT_EQ(ops[1].fillStyle, FillStyle::Solid);
-        EXPECT_EQ(ops[1].fillColor, kWhite);
-
-        const double width = type->layout.cabin.width;
-        const double height = type->layout.cabin.height;
-        double leftmost = width;
-        double rightmost = 0;
-        for (std::size_t i = 2; i < ops.size(); ++i) {
-            const DrawOp& op = ops[i];
-            if (op.kind == DrawOp::Kind::Text)
-                continue;
-            EXPECT_EQ(op.colour, kBlack);
-            EXPECT_NE(op.fillStyle, FillStyle::Solid) << "outlines only: the hot spots show through";
-            for (double x : {op.x1, op.x2}) {
-                EXPECT_GE(x, 0);
-                EXPECT_LE(x, width);
-            }
-            for (double y : {op.y1, op.y2}) {
-                EXPECT_GE(y, 0);
-                EXPECT_LE(y, height);
-            }
-            leftmost = std::min({leftmost, op.x1, op.x2});
-            rightmost = std::max({rightmost, op.x1, op.x2});
-        }
+        const auto [leftmost, rightmost] = expectBlackOutlinesOnWhite(picture->ops(), *picture);
         // The fuselage reaches beyond every station: the nose to the left, the tail to the right.
         for (const StationRow& row : type->stations) {
             EXPECT_LT(leftmost, row.location.left);
             EXPECT_GT(rightmost, row.location.right());
         }
     }
+
+    SCOPED_TRACE("CRJ200");
+    RegionalRig rig;
+    CRJ200 crj(rig.session);
+    auto& seatMap = dynamic_cast<RecordingCanvas&>(crj.Picture2());
+    const auto [leftmost, rightmost] = expectBlackOutlinesOnWhite(seatMap.backgroundOps(), seatMap);
+    EXPECT_LT(leftmost, 1146 - 100) << "ahead of the pilots";
+    EXPECT_GT(rightmost, 7444 + 200) << "behind the hold";
 }
 
 TEST(RegionalCabin, TheFormDrawsItsCabinWhenMadeAndAgainOnDemand)

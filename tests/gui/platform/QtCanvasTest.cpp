@@ -27,6 +27,24 @@ TEST(QtCanvas, DrawsInTwipsFifteenToThePixel)
     EXPECT_EQ(at(canvas, 50, 20), kWhitePixel);
 }
 
+TEST(QtCanvas, ClearGoesBackToTheKeptBackground)
+{
+    QtCanvas canvas(1500, 750);
+    canvas.line(0, 150, 1485, 150, kBlack);
+    canvas.keepAsBackground();
+    canvas.setFillStyle(FillStyle::Solid);
+    canvas.setFillColor(kGreen);
+    canvas.circle(750, 150, 150, kGreen);
+    EXPECT_EQ(at(canvas, 50, 10), kGreenPixel);
+
+    canvas.clear();
+    EXPECT_EQ(at(canvas, 50, 10), kBlackPixel) << "the background line, not the circle drawn over it";
+    EXPECT_EQ(at(canvas, 50, 12), kWhitePixel);
+    canvas.circle(750, 150, 150, kGreen);
+    canvas.clear();
+    EXPECT_EQ(at(canvas, 50, 12), kWhitePixel) << "drawing after a clear leaves the background as kept";
+}
+
 TEST(QtCanvas, FloodFillStopsAtTheForeColour)
 {
     QtCanvas canvas(1500, 1500);
