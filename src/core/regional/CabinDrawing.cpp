@@ -11,7 +11,7 @@ namespace {
 // Free border around the fuselage: two pixels, as the picture box's own border covers the outermost.
 constexpr double kEdge = 30;
 constexpr double kBodyPadding = 45; // fuselage wall beyond the outermost hot spots
-constexpr double kInset = 30;       // a seat or hold outline inside its hot spot
+constexpr double kInset = 30;       // a seat outline inside its hot spot
 constexpr double kSeatSide = 210;
 constexpr double kDoorWidth = 240;
 constexpr double kAftOfStations = 60; // the tail cone begins just behind the last hold
@@ -88,12 +88,12 @@ Outline insideWalls(Outline outline, const Fuselage& body)
     return outline;
 }
 
-// A hold fills its hot spot, drawn in a little.
-Outline holdOutline(const TwipsRect& hotSpot, const Fuselage& body)
+// A hold's outline runs along the edge pixels of its area.
+Outline holdOutline(const TwipsRect& area, const Fuselage& body)
 {
-    return insideWalls(
-        {hotSpot.left + kInset, hotSpot.top + kInset, hotSpot.right() - kInset, hotSpot.bottom() - kInset},
-        body);
+    const double left = area.left;
+    const double top = area.top;
+    return insideWalls({left, top, left + area.width - kTwipsPerPixel, top + area.height - kTwipsPerPixel}, body);
 }
 
 // A seat is a square on its hot spot's centre, at most kSeatSide across: a few hot spots overlap
@@ -193,10 +193,11 @@ CabinPlan cabinPlan(const RegionalType& type)
         plan.crewSeats.push_back(stations[static_cast<std::size_t>(crew)].location);
     for (int seat = type.roles.firstPassenger; seat <= type.roles.lastPassenger; ++seat)
         plan.passengerSeats.push_back(stations[static_cast<std::size_t>(seat)].location);
-    // Holds and bays are the stations marked with a hatched box.
+    // Holds and bays are the stations marked with a hatched box. Each is drawn where its marker lies,
+    // so that the marker's hatching fills it when it is loaded; its hot spot lies over most of it.
     for (const StationRow& row : stations) {
         if (row.marker.kind == MarkerKind::HatchedBox)
-            plan.holds.push_back({row.location, row.name});
+            plan.holds.push_back({row.marker.rect, row.name});
     }
     return plan;
 }

@@ -20,8 +20,8 @@ struct CabinPlan {
     std::vector<Compartment> holds;
 };
 
-// The plan of a regional type's cabin: every seat and hold where its hot spot is, so that every hot
-// spot sits on what it stands for.
+// The plan of a regional type's cabin: every seat under its hot spot, every hold and bay on its
+// marker, so that every hot spot sits on what it stands for and a loaded hold's hatching fills it.
 CabinPlan cabinPlan(const RegionalType& type);
 
 // Draws a cabin top view in black on white, nose to the left: the fuselage outline with its

@@ -3,6 +3,8 @@
 #include "RegionalRig.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <memory>
 #include <utility>
@@ -28,13 +30,29 @@ bool covers(const DrawOp& box, double x, double y)
     return box.x1 < x && x < box.x2 && box.y1 < y && y < box.y2;
 }
 
-TEST(RegionalCabin, EveryHotSpotSitsOnItsSeatOrHold)
+// The device pixel a coordinate in twips falls on.
+int pixel(double twips)
+{
+    return static_cast<int>(std::floor(twips / kTwipsPerPixel));
+}
+
+// Left, top, right and bottom pixel, all inclusive.
+using PixelBox = std::array<int, 4>;
+
+PixelBox pixelsOf(const DrawOp& box)
+{
+    return {pixel(std::min(box.x1, box.x2)), pixel(std::min(box.y1, box.y2)), pixel(std::max(box.x1, box.x2)),
+            pixel(std::max(box.y1, box.y2))};
+}
+
+TEST(RegionalCabin, EverySeatIsDrawnUnderItsHotSpot)
 {
     for (const RegionalType* type : regionalTypes()) {
         const auto picture = drawn(*type);
         const auto boxes = picture->ops(DrawOp::Kind::Box);
-        const auto texts = picture->ops(DrawOp::Kind::Text);
         for (const StationRow& row : type->stations) {
+            if (row.marker.kind != MarkerKind::Circle)
+                continue;
             SCOPED_TRACE(std::string(type->form) + " " + std::string(row.name));
             const TwipsRect& spot = row.location;
             const bool outlined = std::any_of(boxes.begin(), boxes.end(), [&](const DrawOp& box) {
@@ -42,14 +60,50 @@ TEST(RegionalCabin, EveryHotSpotSitsOnItsSeatOrHold)
                        covers(box, spot.centreX(), spot.centreY());
             });
             EXPECT_TRUE(outlined);
+        }
+    }
+}
+
+// A hold's marker hatches exactly the compartment drawn for it, and a click on the middle of that
+// compartment reaches the hold's hot spot.
+TEST(RegionalCabin, EveryHoldIsDrawnOnItsMarker)
+{
+    for (const RegionalType* type : regionalTypes()) {
+        const auto picture = drawn(*type);
+        const auto boxes = picture->ops(DrawOp::Kind::Box);
+        const auto texts = picture->ops(DrawOp::Kind::Text);
+        for (const StationRow& row : type->stations) {
+            if (row.marker.kind != MarkerKind::HatchedBox)
+                continue;
+            SCOPED_TRACE(std::string(type->form) + " " + std::string(row.name));
+            const TwipsRect& marker = row.marker.rect;
+            // The marker covers these pixels, its far edges included.
+            const PixelBox markerPixels{pixel(marker.left), pixel(marker.top), pixel(marker.right()) - 1,
+                                        pixel(marker.bottom()) - 1};
+            const auto hold = std::find_if(boxes.begin(), boxes.end(), [&](const DrawOp& box) {
+                return box.colour == kBlack && pixelsOf(box) == markerPixels;
+            });
+            ASSERT_NE(hold, boxes.end());
+            EXPECT_TRUE(covers(*hold, row.location.centreX(), row.location.centreY()));
             if (row.name == "Cargo") {
                 const bool named = std::any_of(texts.begin(), texts.end(), [&](const DrawOp& text) {
-                    return text.text == "Cargo" && text.x1 > spot.left && text.x1 < spot.right();
+                    return text.text == "Cargo" && text.x1 > hold->x1 && text.x1 < hold->x2;
                 });
                 EXPECT_TRUE(named);
             }
         }
     }
+}
+
+TEST(RegionalCabin, TheBeechHoldLiesWhereItsMarkerShowsIt)
+{
+    // The hold's marker is the box 7560, 150, 855, 1100 twips: pixels 504 to 560 across.
+    const auto picture = drawn(beechType());
+    const auto boxes = picture->ops(DrawOp::Kind::Box);
+    const bool drawnThere = std::any_of(boxes.begin(), boxes.end(), [](const DrawOp& box) {
+        return pixelsOf(box) == PixelBox{504, 10, 560, 82};
+    });
+    EXPECT_TRUE(drawnThere);
 }
 
 // Checks a cabin drawing: black outlines on white, off the outermost pixels (which the picture
