@@ -2,13 +2,28 @@
 
 #include "QtCanvas.h"
 
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
 
 namespace quillet {
 
+namespace {
+
+// Screen readers would list a plain widget as a "filler"; a picture box is a graphic.
+QAccessibleInterface* pictureBoxAccessible(const QString& className, QObject* object)
+{
+    if (className == QLatin1String(PictureBox::staticMetaObject.className()) && object->isWidgetType())
+        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
+    return nullptr;
+}
+
+} // namespace
+
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent)
 {
+    static const bool announced = (QAccessible::installFactory(pictureBoxAccessible), true);
+    (void)announced;
     setMouseTracking(true);
     setFocusPolicy(Qt::ClickFocus);
 }

@@ -1,5 +1,6 @@
 #include "RegionalLoadWindow.h"
 
+#include "platform/Accessibility.h"
 #include "platform/PictureBox.h"
 #include "platform/Twips.h"
 #include "regional/RegionalLoadForm.h"
@@ -23,7 +24,7 @@ RegionalLoadWindow::RegionalLoadWindow(RegionalLoadForm& form, Application& app)
     m_client->setFixedSize(twipsRect(0, 0, layout.clientWidth, layout.clientHeight).size());
     setCentralWidget(m_client);
 
-    m_photo = pictureBox(layout.photoName, layout.photo, QStringLiteral("Photograph of the aircraft"));
+    m_photo = pictureBox(layout.photoName, layout.photo, QStringLiteral("Photograph of the ") + latin(type.type));
     m_summary = std::make_unique<SummaryPanel>(m_client, layout.summary, form);
 }
 
@@ -31,7 +32,7 @@ PictureBox* RegionalLoadWindow::pictureBox(std::string_view name, const TwipsRec
 {
     auto* box = new PictureBox(m_client);
     box->setObjectName(latin(name));
-    box->setAccessibleName(shows);
+    nameForScreenReaders(box, shows);
     place(box, rect);
     return box;
 }

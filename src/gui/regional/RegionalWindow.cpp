@@ -1,5 +1,6 @@
 #include "RegionalWindow.h"
 
+#include "platform/Accessibility.h"
 #include "platform/PictureBox.h"
 #include "platform/QtCanvas.h"
 #include "platform/Twips.h"
@@ -68,8 +69,10 @@ private:
 RegionalWindow::RegionalWindow(RegionalForm& form, Application& app)
     : RegionalLoadWindow(form, app), m_regional(form)
 {
-    const RegionalLayout& layout = form.type().layout;
-    PictureBox* cabin = pictureBox(layout.cabinName, layout.cabin, QStringLiteral("Cabin seen from above"));
+    const RegionalType& type = form.type();
+    PictureBox* cabin = pictureBox(type.layout.cabinName, type.layout.cabin,
+                                   QStringLiteral("Cabin of the ") + latin(type.type));
+    nameForScreenReaders(cabin, {}, QStringLiteral("Click a seat or a hold to load or empty it"));
     cabin->setCanvas(dynamic_cast<QtCanvas*>(&form.cabin()));
     // Markers under the hot spots, so that every press reaches a hot spot.
     for (const Marker& marker : form.Shape1) {
@@ -83,6 +86,8 @@ RegionalWindow::RegionalWindow(RegionalForm& form, Application& app)
             m_app.handle([this, station] { m_regional.location_Click(station); });
         });
         spot->setObjectName(QStringLiteral("location(%1)").arg(station));
+        // Its tool tip, read as the description, tells the station's load.
+        nameForScreenReaders(spot, latin(type.stations[i].name));
         place(spot, form.location[i].rect);
         m_hotSpots.push_back(spot);
     }

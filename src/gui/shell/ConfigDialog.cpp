@@ -1,12 +1,12 @@
 #include "ConfigDialog.h"
 
 #include "Application.h"
+#include "platform/Accessibility.h"
 #include "platform/Twips.h"
 #include "platform/Widgets.h"
 #include "shell/Form1.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,13 +16,20 @@ namespace quillet {
 
 namespace {
 
-QLabel* makeLabel(QWidget* parent, const char* name, const char* text, double l, double t, double w, double h)
+enum class LabelFont { Form, Arial };
+
+QLabel* makeLabel(QWidget* parent, const char* name, const char* text, LabelFont font, double l, double t, double w,
+                  double h)
 {
     auto* label = new QLabel(QString::fromLatin1(text), parent);
     label->setObjectName(QString::fromLatin1(name));
-    QFont arial(QStringLiteral("Arial"));
-    arial.setPointSizeF(9.75);
-    label->setFont(arial);
+    if (font == LabelFont::Arial) {
+        QFont arial(QStringLiteral("Arial"));
+        arial.setPointSizeF(9.75);
+        label->setFont(arial);
+    }
+    // Captions stand at the top of their boxes, whatever the boxes' heights.
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     place(label, l, t, w, h);
     return label;
 }
@@ -30,23 +37,23 @@ QLabel* makeLabel(QWidget* parent, const char* name, const char* text, double l,
 } // namespace
 
 ConfigDialog::ConfigDialog(Application& app, QWidget* parent)
-    : QWidget(parent, Qt::Window), m_app(app), m_form(app.form1().form4Window())
+    : QDialog(parent), m_app(app), m_form(app.form1().form4Window())
 {
     setObjectName(QStringLiteral("Form4"));
     setWindowTitle(QString::fromLatin1(Form4::kCaption));
     setFixedSize(twipsRect(0, 0, 5370, 2415).size());
 
-    makeLabel(this, "Label1", "Active Aircraft", 120, 0, 1695, 255);
-    makeLabel(this, "Label2", "Directory", 2640, 0, 1935, 375);
-    makeLabel(this, "Label4", "Avaliable Aircraft", 0, 720, 1695, 255);
-    auto* simLabel = new QLabel(QStringLiteral("Current Directory of Flight Simulator"), this);
-    simLabel->setObjectName(QStringLiteral("Label3"));
-    place(simLabel, 240, 1560, 4095, 255);
+    QLabel* active = makeLabel(this, "Label1", "Active Aircraft", LabelFont::Arial, 120, 0, 1695, 255);
+    makeLabel(this, "Label2", "Directory", LabelFont::Arial, 2640, 0, 1935, 375);
+    QLabel* available = makeLabel(this, "Label4", "Avaliable Aircraft", LabelFont::Arial, 0, 720, 1695, 255);
+    QLabel* simulator =
+        makeLabel(this, "Label3", "Current Directory of Flight Simulator", LabelFont::Form, 240, 1560, 4095, 255);
 
     m_combo1 = new QComboBox(this);
     m_combo1->setObjectName(QStringLiteral("Combo1"));
     place(m_combo1, 720, 360, 1935, 315);
     m_app.bind(m_combo1, m_form.Combo1);
+    nameForScreenReaders(m_combo1, active);
 
     m_validDir = new QLineEdit(this);
     m_validDir->setObjectName(QStringLiteral("Valid_dir"));
@@ -55,32 +62,39 @@ ConfigDialog::ConfigDialog(Application& app, QWidget* parent)
     menuColour.setColor(QPalette::Base, palette().color(QPalette::Button));
     m_validDir->setPalette(menuColour);
     place(m_validDir, 2760, 360, 1695, 285);
+    nameForScreenReaders(m_validDir, QStringLiteral("Directory of the active aircraft"));
 
     m_combo2 = new QComboBox(this);
     m_combo2->setObjectName(QStringLiteral("Combo2"));
     place(m_combo2, 720, 1080, 1935, 315);
     m_app.bind(m_combo2, m_form.Combo2);
+    nameForScreenReaders(m_combo2, available);
     m_invalidDir = new QLineEdit(this);
     m_invalidDir->setObjectName(QStringLiteral("invalid_dir"));
     place(m_invalidDir, 2760, 1080, 1695, 285);
     m_app.bind(m_invalidDir, m_form.invalid_dir);
+    nameForScreenReaders(m_invalidDir, QStringLiteral("Directory of the available aircraft"));
 
     m_add = new QPushButton(QStringLiteral("Add"), this);
     m_add->setObjectName(QStringLiteral("Command1"));
     m_add->setToolTip(QStringLiteral("Add airfract to active menu"));
     place(m_add, 4560, 1080, 495, 255);
+    // Return in a text box must not press "Add", as a dialog's buttons otherwise would.
+    m_add->setAutoDefault(false);
     connect(m_add, &QPushButton::clicked, this, [this] { m_app.handle([this] { m_form.Command1_Click(); }); });
 
     m_simdir = new QLineEdit(this);
     m_simdir->setObjectName(QStringLiteral("simdir"));
     place(m_simdir, 360, 1920, 4095, 375);
     m_app.bind(m_simdir, m_form.simdir);
+    nameForScreenReaders(m_simdir, simulator);
 
     m_check2 = new QCheckBox(this);
     m_check2->setObjectName(QStringLiteral("Check2"));
     place(m_check2, 4560, 2040, 135, 195);
     // The designed box is smaller than this style's indicator; grow it from its corner so it shows whole.
     m_check2->resize(m_check2->size().expandedTo(m_check2->sizeHint()));
+    nameForScreenReaders(m_check2, QStringLiteral("Simulator directory confirmed"));
     connect(m_check2, &QCheckBox::toggled, this,
             [this](bool checked) { m_app.handle([this, checked] { m_form.Check2 = checked; }); });
 
@@ -99,10 +113,10 @@ void ConfigDialog::sync()
     m_check2->setChecked(m_form.Check2);
 }
 
-void ConfigDialog::closeEvent(QCloseEvent* event)
+void ConfigDialog::done(int result)
 {
+    QDialog::done(result);
     m_app.handle([this] { m_form.close(); });
-    event->accept();
 }
 
 } // namespace quillet

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include <QDialog>
 
 class QCheckBox;
 class QComboBox;
@@ -13,15 +13,15 @@ class Application;
 class Form4;
 
 // The configuration dialog's window; not modal, so the main window stays usable beside it.
-class ConfigDialog : public QWidget {
+class ConfigDialog : public QDialog {
     Q_OBJECT
 public:
     ConfigDialog(Application& app, QWidget* parent = nullptr);
 
     void sync();
 
-protected:
-    void closeEvent(QCloseEvent* event) override;
+    // Closing the dialog (or Escape) hands it back to the core, which stores the settings.
+    void done(int result) override;
 
 private:
     Application& m_app;

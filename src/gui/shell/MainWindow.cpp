@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "Application.h"
+#include "platform/Accessibility.h"
 #include "platform/PictureBox.h"
 #include "platform/Twips.h"
 #include "platform/Widgets.h"
@@ -60,18 +61,21 @@ MainWindow::MainWindow(Application& app) : m_app(app), m_form(app.form1())
     titleFont.setPointSizeF(27.75);
     titleFont.setBold(true);
     title->setFont(titleFont);
-    makeLabel(client, "Label3", 240, 1440, 1335, 255)->setText(QStringLiteral("Select Aircraft"));
+    QLabel* selectAircraft = makeLabel(client, "Label3", 240, 1440, 1335, 255);
+    selectAircraft->setText(QStringLiteral("Select Aircraft"));
 
     m_combo1 = new QComboBox(client);
     m_combo1->setObjectName(QStringLiteral("Combo1"));
     place(m_combo1, 480, 1680, 2295, 315);
     m_combo1->installEventFilter(this);
     m_app.bind(m_combo1, m_form.Combo1);
+    nameForScreenReaders(m_combo1, selectAircraft);
 
     auto* adjust = new QPushButton(QStringLiteral("Adjust"), client);
     adjust->setObjectName(QStringLiteral("Command2"));
     place(adjust, 3000, 1680, 615, 255);
     connect(adjust, &QPushButton::clicked, this, [this] { m_app.handle([this] { m_form.Command2_Click(); }); });
+    nameForScreenReaders(adjust, {}, QStringLiteral("Opens the load form of the selected aircraft"));
 
     m_picture = new PictureBox(client);
     m_picture->setObjectName(QStringLiteral("PicDHC"));
@@ -118,6 +122,11 @@ void MainWindow::buildConverter()
     };
     m_textkg = makeEdit("Textkg", 240, converter.Textkg);
     m_textlb = makeEdit("TextLB", 600, converter.TextLB);
+    nameForScreenReaders(m_textkg, QStringLiteral("Kilograms"));
+    nameForScreenReaders(m_textlb, QStringLiteral("Pounds"));
+    // The labels read as the numbers they show.
+    nameForScreenReaders(m_labelkg, {}, QStringLiteral("Kilograms; click to type kilograms"));
+    nameForScreenReaders(m_labellb, {}, QStringLiteral("Pounds; click to type pounds"));
     m_labelkg->installEventFilter(this);
     m_labellb->installEventFilter(this);
 }
@@ -153,6 +162,9 @@ void MainWindow::sync()
         m_shownPicture = file;
         m_picture->setPicture(loadPicture(m_form.PicDHC.file, m_app.session().messages));
     }
+    const QString type = toQString(m_form.Combo1.text());
+    nameForScreenReaders(m_picture, QStringLiteral("Picture of the ") +
+                                        (type.isEmpty() ? QStringLiteral("selected aircraft") : type));
     showState(m_lblbow, m_form.lblbow);
     showState(m_lblpax, m_form.lblpax);
     showState(m_lblmf, m_form.lblmf);

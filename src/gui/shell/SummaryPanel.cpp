@@ -1,6 +1,7 @@
 #include "SummaryPanel.h"
 
 #include "load/Summary.h"
+#include "platform/Accessibility.h"
 #include "platform/PictureBox.h"
 #include "platform/QtCanvas.h"
 #include "platform/Twips.h"
@@ -32,11 +33,13 @@ SummaryPanel::SummaryPanel(QWidget* client, const SummaryLayout& layout, Summary
     picture4->setAccessibleName(QStringLiteral("Longitudinal balance"));
     place(picture4, layout.Picture4);
     picture4->setCanvas(dynamic_cast<QtCanvas*>(&form.Picture4()));
+    nameForScreenReaders(picture4, latin(kLabel2Text));
     auto* picture3 = new PictureBox(client);
     picture3->setObjectName(QStringLiteral("Picture3"));
     picture3->setAccessibleName(QStringLiteral("Lateral balance"));
     place(picture3, layout.Picture3);
     picture3->setCanvas(dynamic_cast<QtCanvas*>(&form.Picture3()));
+    nameForScreenReaders(picture3, latin(kLabel3Text));
 
     QLabel* caption4 = label(client, "Label2", layout.Label2);
     caption4->setText(latin(kLabel2Text));
