@@ -42,17 +42,6 @@ TEST_F(MainWindowGui, ListsTheEntriesWhoseAircraftCfgExistsAndShowsTheSummary)
     EXPECT_TRUE(find<QWidget>(main(), "PicDHC")->isVisible());
 }
 
-TEST_F(MainWindowGui, WidgetsStandAtTheirDesignedPlaces)
-{
-    dir.writeIni(dir.sim(), {});
-    start();
-    EXPECT_EQ(main()->centralWidget()->size(), QSize(564, 234));
-    EXPECT_EQ(find<QWidget>(main(), "Combo1")->geometry(), QRect(32, 112, 153, 21));
-    EXPECT_EQ(find<QWidget>(main(), "Command2")->geometry(), QRect(200, 112, 41, 17));
-    EXPECT_EQ(find<QWidget>(main(), "lbltot")->geometry(), QRect(32, 208, 220, 17));
-    EXPECT_EQ(find<QWidget>(main(), "Converter")->geometry(), QRect(448, 112, 105, 73));
-}
-
 TEST_F(MainWindowGui, WithoutASimulatorTheConfigurationDialogOpens)
 {
     dir.writeIni(dir.sim(), {"B737-300,b737_300"});
