@@ -1,7 +1,10 @@
 #include "shell/Application.h"
+#include "shell/StartUp.h"
 
 #include <QApplication>
 #include <QFont>
+#include <QIcon>
+#include <QMessageBox>
 
 #include <filesystem>
 
@@ -9,12 +12,27 @@ int main(int argc, char* argv[])
 {
     QApplication qt(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillet"));
+    QApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("quillet"));
+    QIcon icon;
+    for (int size : {16, 24, 32, 48, 64, 128, 256})
+        icon.addFile(QStringLiteral(":/icons/%1x%1/quillet.png").arg(size));
+    QApplication::setWindowIcon(icon);
     QFont font(QStringLiteral("Arial"));
     font.setPointSizeF(8.25);
     QApplication::setFont(font);
 
-    // The program's files (quillet.ini, the station files, the pictures) lie in the current folder.
-    quillet::Application app(std::filesystem::current_path());
+    // The program's files (quillet.ini, the station files, the pictures) lie in the folder it works in,
+    // which is also its current folder.
+    const auto folder = quillet::startFolder(QApplication::arguments(), [](const std::string& message) {
+        QMessageBox::warning(nullptr, QStringLiteral("Quillet"), QString::fromStdString(message));
+    });
+    if (!folder)
+        return 1;
+    std::error_code ec;
+    std::filesystem::current_path(*folder, ec);
+
+    quillet::Application app(*folder);
     app.start();
     return QApplication::exec();
 }
