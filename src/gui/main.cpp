@@ -2,6 +2,7 @@
 #include "shell/StartUp.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFont>
 #include <QIcon>
 #include <QMessageBox>
@@ -15,8 +16,8 @@ int main(int argc, char* argv[])
     QApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("quillet"));
     QIcon icon;
-    for (int size : {16, 24, 32, 48, 64, 128, 256})
-        icon.addFile(QStringLiteral(":/icons/%1x%1/quillet.png").arg(size));
+    for (const QString& size : QDir(QStringLiteral(":/icons")).entryList())
+        icon.addFile(QStringLiteral(":/icons/%1/quillet.png").arg(size));
     QApplication::setWindowIcon(icon);
     QFont font(QStringLiteral("Arial"));
     font.setPointSizeF(8.25);
@@ -29,6 +30,7 @@ int main(int argc, char* argv[])
     });
     if (!folder)
         return 1;
+    // Files are found through `folder`; the current folder only follows it, so a failure is harmless.
     std::error_code ec;
     std::filesystem::current_path(*folder, ec);
 

@@ -18,7 +18,8 @@ inline QString accessibleLabel(QWidget* widget)
 {
     QAccessibleInterface* announced = QAccessible::queryAccessibleInterface(widget);
     const auto labels = announced->relations(QAccessible::Label);
-    return labels.isEmpty() ? announced->text(QAccessible::Name) : labels.first().first->text(QAccessible::Name);
+    return labels.isEmpty() ? announced->text(QAccessible::Name)
+                            : labels.first().first->text(QAccessible::Name);
 }
 
 inline QAccessible::Role accessibleRole(QWidget* widget)

@@ -111,8 +111,7 @@ inline void expectControls(const QWidget* container, const std::vector<Control>&
             EXPECT_EQ(captionOf(widget), QString::fromLatin1(*control.caption));
         }
         const QFont font = widget->font();
-        const Font expected = control.font.value_or(
-            Font{nullptr, formFont.pointSizeF(), formFont.bold()});
+        const Font expected = control.font.value_or(Font{nullptr, formFont.pointSizeF(), formFont.bold()});
         EXPECT_EQ(font.family(), expected.family ? QString::fromLatin1(expected.family) : formFont.family());
         EXPECT_DOUBLE_EQ(font.pointSizeF(), expected.points);
         EXPECT_EQ(font.bold(), expected.bold);
@@ -123,7 +122,8 @@ inline void expectControls(const QWidget* container, const std::vector<Control>&
 inline void expectLine(const QWidget* container, const Line& line)
 {
     SCOPED_TRACE(line.name);
-    const auto* widget = container->findChild<QWidget*>(QString::fromLatin1(line.name), Qt::FindDirectChildrenOnly);
+    const auto* widget =
+        container->findChild<QWidget*>(QString::fromLatin1(line.name), Qt::FindDirectChildrenOnly);
     ASSERT_NE(widget, nullptr);
     ASSERT_EQ(line.y1, line.y2) << "only level lines are drawn";
     const int left = pixels(std::min(line.x1, line.x2));

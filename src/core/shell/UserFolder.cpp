@@ -36,7 +36,8 @@ Status prepareUserFolder(const fs::path& folder, const fs::path& installedPictur
     std::error_code ec;
     fs::create_directories(folder, ec);
     if (!fs::is_directory(folder, ec))
-        return Error{"Quillet's folder " + quoted(folder) + " could not be made" + (ec ? ": " + ec.message() : "") + "."};
+        return Error{"Quillet's folder " + quoted(folder) + " could not be made" +
+                     (ec ? ": " + ec.message() : "") + "."};
 
     // Settings first: without them the program cannot be configured at all.
     if (!findPath(kSettingsFile, folder)) {

@@ -21,7 +21,8 @@ std::filesystem::path installedPictures()
 {
     // Where the install puts the data, relative to the executable's folder, so that an installed
     // tree can be moved as a whole.
-    const QString data = QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral(QUILLET_DATA_FROM_BINDIR));
+    const QString data =
+        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral(QUILLET_DATA_FROM_BINDIR));
     return fs::path(QDir::cleanPath(data).toStdU16String()) / "pictures";
 }
 
@@ -34,10 +35,11 @@ std::optional<std::filesystem::path> startFolder(const QStringList& arguments,
         "saved loads and the aircraft pictures in the folder it is started from."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption own(QStringLiteral("user-folder"),
-                                 QStringLiteral("Work in your own Quillet folder (%1) instead, made on first start "
-                                                "with the aircraft pictures.")
-                                     .arg(QString::fromStdU16String(userFolder().u16string())));
+    const QCommandLineOption own(
+        QStringLiteral("user-folder"),
+        QStringLiteral("Work in your own Quillet folder (%1) instead, made on first start "
+                       "with the aircraft pictures.")
+            .arg(QString::fromStdU16String(userFolder().u16string())));
     parser.addOption(own);
     parser.process(arguments);
 

@@ -78,7 +78,8 @@ TEST_F(UserFolder, AFolderThatCannotBeMadeIsNamed)
     home.write("share/quillet", "a file where the folder should be");
     const Status prepared = prepare();
     ASSERT_FALSE(prepared);
-    EXPECT_NE(prepared.error().message.find(displayPath(folder())), std::string::npos) << prepared.error().message;
+    EXPECT_NE(prepared.error().message.find(displayPath(folder())), std::string::npos)
+        << prepared.error().message;
 }
 
 TEST_F(UserFolder, MissingInstalledPicturesAreNamedAndTheSettingsAreStillWritten)
@@ -86,7 +87,8 @@ TEST_F(UserFolder, MissingInstalledPicturesAreNamedAndTheSettingsAreStillWritten
     std::filesystem::remove_all(pictures());
     const Status prepared = prepare();
     ASSERT_FALSE(prepared);
-    EXPECT_NE(prepared.error().message.find(displayPath(pictures())), std::string::npos) << prepared.error().message;
+    EXPECT_NE(prepared.error().message.find(displayPath(pictures())), std::string::npos)
+        << prepared.error().message;
     EXPECT_EQ(read("quillet.ini"), kStarter);
 }
 

@@ -1,9 +1,8 @@
 #include "AccessibilityCheck.h"
 #include "GuiFixture.h"
-#include "shell/LoadFormWindow.h"
-
 #include "platform/QtPrompt.h"
 #include "shell/ConfigDialog.h"
+#include "shell/LoadFormWindow.h"
 
 #include <QDialog>
 #include <QTest>
@@ -72,7 +71,8 @@ TEST_F(AccessibilityGui, EveryWindowIsAFrameOrADialogNamedByItsTitle)
         if (!window->isVisible())
             continue;
         const QAccessible::Role role = accessibleRole(window);
-        EXPECT_TRUE(role == QAccessible::Window || role == QAccessible::Dialog) << window->objectName().toStdString();
+        EXPECT_TRUE(role == QAccessible::Window || role == QAccessible::Dialog)
+            << window->objectName().toStdString();
         EXPECT_EQ(accessibleName(window), window->windowTitle());
     }
 }
@@ -88,7 +88,8 @@ TEST_F(AccessibilityGui, EveryControlOfTheShellWindowsIsNamed)
     EXPECT_EQ(accessibleRole(picture), QAccessible::Graphic);
     EXPECT_EQ(accessibleName(picture), "Picture of the Beech 1900D");
     EXPECT_EQ(accessibleName(find<QWidget>(main(), "Textkg")), "Kilograms");
-    EXPECT_EQ(accessibleLabel(find<QWidget>(app->configDialog(), "simdir")), "Current Directory of Flight Simulator");
+    EXPECT_EQ(accessibleLabel(find<QWidget>(app->configDialog(), "simdir")),
+              "Current Directory of Flight Simulator");
     EXPECT_EQ(accessibleName(find<QWidget>(app->configDialog(), "Check2")), "Simulator directory confirmed");
 }
 
