@@ -11,10 +11,10 @@
 namespace quillet {
 namespace {
 
-const char* const kForms[] = {"Beech", "Emb120", "DHC8"};
+const char* const kForms[] = {"Beech", "Emb120", "DHC8", "Boeing"};
 
-// The three regional types on a simulator folder that lacks fs2000.exe, so that the configuration
-// dialog opens at start beside the main window.
+// The three regional types and a jet on a simulator folder that lacks fs2000.exe, so that the
+// configuration dialog opens at start beside the main window.
 class AccessibilityGui : public GuiFixture {
 protected:
     void SetUp() override
@@ -22,7 +22,9 @@ protected:
         dir.makeAircraft("beech");
         dir.makeAircraft("emb120");
         dir.makeAircraft("dhc8");
-        dir.writeIni(dir.sim(), {"Beech 1900D,beech", "Empraer EMB_120,emb120", "DHC-8-300,dhc8"});
+        dir.makeAircraft("b737");
+        dir.writeIni(dir.sim(),
+                     {"Beech 1900D,beech", "Empraer EMB_120,emb120", "DHC-8-300,dhc8", "B737-300,b737"});
         start();
     }
 
@@ -58,8 +60,8 @@ TEST_F(AccessibilityGui, EveryWindowIsAFrameOrADialogNamedByItsTitle)
     expectWindow(main()->findChild<QWidget*>("Form2"), QAccessible::Dialog, "Quillet - Terms of use");
 
     const char* const captions[] = {"Quillet - Beech 1900D", "Quillet - Embraer EMB-120",
-                                    "Quillet - Bombardier DHC-8-300"};
-    for (int i = 0; i < 3; ++i) {
+                                    "Quillet - Bombardier DHC-8-300", "B737-300"};
+    for (int i = 0; i < 4; ++i) {
         QWidget* form = open(i);
         expectWindow(form, QAccessible::Window, captions[i]);
         if (form)
@@ -95,7 +97,7 @@ TEST_F(AccessibilityGui, EveryControlOfTheShellWindowsIsNamed)
 
 TEST_F(AccessibilityGui, EveryControlOfTheLoadFormsIsNamedAndAHotSpotTellsItsLoad)
 {
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 4; ++i) {
         SCOPED_TRACE(kForms[i]);
         QWidget* form = open(i);
         ASSERT_NE(form, nullptr);
