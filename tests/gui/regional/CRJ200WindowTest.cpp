@@ -62,9 +62,9 @@ TEST_F(CRJ200WindowGui, EveryElementIsWhereTheFormPutsIt)
         EXPECT_EQ(find<QWidget>(window(), place.name)->geometry(), place.pixels) << place.name;
 
     EXPECT_EQ(seatMap()->accessibleName(), "Seat map");
-    EXPECT_EQ(find<QWidget>(window(), "Picture1")->accessibleName(), "Photograph of the aircraft");
-    EXPECT_EQ(find<QWidget>(window(), "Picture4")->accessibleName(), "Longitudinal balance");
-    EXPECT_EQ(find<QWidget>(window(), "Picture3")->accessibleName(), "Lateral balance");
+    EXPECT_EQ(find<QWidget>(window(), "Picture1")->accessibleName(), "Photograph of the CRJ-200ER");
+    EXPECT_EQ(find<QWidget>(window(), "Picture4")->accessibleName(), "Longitudinal Balance");
+    EXPECT_EQ(find<QWidget>(window(), "Picture3")->accessibleName(), "Lateral Balance");
     EXPECT_FALSE(find<PictureBox>(window(), "Picture1")->picture().isNull());
     EXPECT_EQ(label("lblbow"), "Basic Operating weight = 35000 lb.");
     EXPECT_EQ(label("Label1"), "Demonstrated configuration");
