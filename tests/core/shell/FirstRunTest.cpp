@@ -1,0 +1,62 @@
+// The station file each type writes the first time it is read: its built-in table with nobody
+// aboard, compared byte for byte with a file under tests/data that was checked by hand against the
+// type's published table. A type's form adds one line to kFirstRuns and its file.
+
+#include "ShellFixture.h"
+#include "regional/RegionalForms.h"
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <string>
+
+namespace quillet {
+namespace {
+
+struct FirstRun {
+    const char* type;   // as the aircraft list shows it
+    const char* golden; // under tests/data
+};
+
+const FirstRun kFirstRuns[] = {
+    {"Beech 1900D", "Beech 1900D.cfg"},
+    {"Empraer EMB_120", "Empraer EMB_120.cfg"},
+    {"DHC-8-300", "DHC-8-300.cfg"},
+};
+
+// Every load form of the program.
+void registerLoadForms(FormRegistry& forms)
+{
+    registerRegionalForms(forms);
+}
+
+class FirstRunStationFile : public ShellFixture, public ::testing::WithParamInterface<FirstRun> {};
+
+TEST_P(FirstRunStationFile, IsTheBuiltInTableWithNobodyAboard)
+{
+    const std::string type = GetParam().type;
+    dir.makeSimulator();
+    dir.makeAircraft("plane");
+    dir.writeIni(dir.sim(), {type + ",plane"});
+    registerLoadForms(forms);
+
+    form1.Form_Load(); // lists the type and reads it: there is no station file yet
+    ASSERT_EQ(form1.Combo1.text(), type);
+    EXPECT_EQ(dir.read(type + ".cfg"), TempDir::readFile(std::filesystem::path(QUILLET_TEST_DATA) / GetParam().golden));
+    EXPECT_TRUE(told("station file").empty());
+}
+
+std::string testName(const ::testing::TestParamInfo<FirstRun>& info)
+{
+    std::string name = info.param.type;
+    for (char& c : name) {
+        if (!std::isalnum(static_cast<unsigned char>(c)))
+            c = '_';
+    }
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryType, FirstRunStationFile, ::testing::ValuesIn(kFirstRuns), testName);
+
+} // namespace
+} // namespace quillet
