@@ -7,11 +7,11 @@
 #include "cfgfile/AircraftFile.h"
 #include "cfgfile/WeightBlock.h"
 #include "cfgfile/inputoutput.h"
+#include "core/cfgfile/SmallType.h"
 #include "load/Session.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -26,19 +26,29 @@ namespace {
 const std::string kType = "Beech 1900D";
 
 // One folder for the whole run, removed at its end.
+class RunFolder {
+public:
+    RunFolder()
+    {
+        std::random_device seed;
+        path = fs::temp_directory_path() / ("quillet-fuzz-cfg-" + std::to_string(seed()));
+        fs::create_directories(path / "fs2000" / "aircraft" / "beech");
+    }
+    ~RunFolder()
+    {
+        std::error_code ec;
+        fs::remove_all(path, ec);
+    }
+    RunFolder(const RunFolder&) = delete;
+    RunFolder& operator=(const RunFolder&) = delete;
+
+    fs::path path;
+};
+
 const fs::path& folder()
 {
-    static const fs::path path = [] {
-        std::random_device seed;
-        const fs::path made = fs::temp_directory_path() / ("quillet-fuzz-cfg-" + std::to_string(seed()));
-        fs::create_directories(made / "fs2000" / "aircraft" / "beech");
-        std::atexit([] {
-            std::error_code ec;
-            fs::remove_all(folder(), ec);
-        });
-        return made;
-    }();
-    return path;
+    static const RunFolder run;
+    return run.path;
 }
 
 void writeFile(const fs::path& path, std::string_view bytes)
@@ -52,7 +62,6 @@ std::string readFile(const fs::path& path)
     return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 
-// A small type as a load form sets it up: two pilots, a passenger and a hold.
 void setUp(quillet::Session& session)
 {
     quillet::LoadState& s = session.state;
@@ -60,22 +69,7 @@ void setUp(quillet::Session& session)
     s.nmenu = 1;
     s.menutype[0] = kType;
     s.menufolder[0] = "beech";
-    s.cfgstations = 4;
-    s.maxtakeoff = 16950;
-    s.maxlanding = 16500;
-    s.emptyweight = 10615;
-    s.maxzerofuel = 15000;
-    s.maxfuel = 3578;
-    s.nstations = 3;
-    s.ncargo = 1;
-    s.ncrew = 2;
-    s.seats2 = 1;
-    const char* names[] = {"Pilot", "Co-pilot", "Passenger 1", "Cargo"};
-    const float xs[] = {13.5f, 13.5f, 5.25f, -17};
-    for (int i = 0; i < 4; ++i) {
-        s.stationname[i] = names[i];
-        s.stationx[i] = xs[i];
-    }
+    quillet::setUpSmallType(s);
     session.currentType = [] { return kType; };
 }
 
