@@ -1,7 +1,8 @@
 // An aircraft.cfg as another program or the user may leave it: the reader buffers it and measures
 // its weight and balance section, the writer saves into a folder of its own. Whatever the bytes,
-// nothing crashes; a file that was read is saved, every line before the section comes back
-// unchanged, and saving the saved file again changes nothing.
+// nothing crashes; a file that was read is saved unless its section cannot be replaced cleanly (and
+// then it is left as it was), every line before the section comes back unchanged, and saving the
+// saved file again changes nothing.
 
 #include "FuzzCheck.h"
 #include "cfgfile/AircraftFile.h"
@@ -53,7 +54,8 @@ const fs::path& folder()
 
 void writeFile(const fs::path& path, std::string_view bytes)
 {
-    std::ofstream(path, std::ios::binary | std::ios::trunc).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    std::ofstream(path, std::ios::binary | std::ios::trunc)
+        .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
 std::string readFile(const fs::path& path)
@@ -86,13 +88,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const quillet::FixedClock clock{quillet::Date{2001, 3, 7}};
     quillet::Session session(prompt, random, clock, folder());
     setUp(session);
+    const auto buffer = quillet::bufferAircraftFile(bytes, quillet::kCfgLineCapacity);
     const bool read = static_cast<bool>(quillet::readcfg(session));
-    QUILLET_FUZZ_CHECK(read == static_cast<bool>(quillet::bufferAircraftFile(bytes, quillet::kCfgLineCapacity)));
+    QUILLET_FUZZ_CHECK(read == static_cast<bool>(buffer));
     if (!read)
         return 0;
     session.state.stationweight[2] = 170;
     session.state.loadweight = 170;
-    QUILLET_FUZZ_CHECK(quillet::writecfg(session));
+    // A file whose section the block cannot replace cleanly is refused, and left as it was.
+    const bool fits = static_cast<bool>(
+        quillet::checkSection(buffer.value().lines, buffer.value().sectionlines, "aircraft.cfg"));
+    QUILLET_FUZZ_CHECK(static_cast<bool>(quillet::writecfg(session)) == fits);
+    if (!fits) {
+        QUILLET_FUZZ_CHECK(readFile(cfg) == bytes);
+        return 0;
+    }
     const std::string saved = readFile(cfg);
 
     std::string kept;
@@ -109,6 +119,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     QUILLET_FUZZ_CHECK(again.value().sectionlines > 0);
     const auto block = quillet::weightAndBalanceBlock(session.state, kType, clock.today());
-    QUILLET_FUZZ_CHECK(quillet::rewriteAircraftFile(again.value().lines, again.value().sectionlines, block) == saved);
+    QUILLET_FUZZ_CHECK(quillet::rewriteAircraftFile(again.value().lines, again.value().sectionlines, block) ==
+                       saved);
     return 0;
 }

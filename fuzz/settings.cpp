@@ -1,9 +1,10 @@
 // quillet.ini as the user may leave it: whatever its bytes, reading it never crashes and never takes
 // more entries than the menu holds.
 
+#include "shell/Settings.h"
+
 #include "FuzzCheck.h"
 #include "load/LoadState.h"
-#include "shell/Settings.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -5,7 +5,6 @@
 #include "RegionalRig.h"
 
 #include <gtest/gtest.h>
-
 #include <sstream>
 #include <string>
 
@@ -28,26 +27,29 @@ std::string describe(const RegionalForm& form)
 {
     const RegionalType& type = form.type();
     const RegionalLayout& l = type.layout;
+    const SummaryLayout& summary = l.summary;
     std::ostringstream out;
     out << "caption " << quoted(type.caption) << "\n";
     out << "client " << l.clientWidth << " x " << l.clientHeight << "\n";
     out << "cabin " << l.cabinName << " " << edges(l.cabin) << "\n";
     out << "photo " << l.photoName << " " << edges(l.photo) << " " << quoted(l.photoFile) << "\n";
-    out << "Picture4 " << edges(l.Picture4) << "\n";
-    out << "Label2 " << edges(l.Label2) << " " << quoted(kLabel2Text) << "\n";
-    out << "Picture3 " << edges(l.Picture3) << "\n";
-    out << "Label3 " << edges(l.Label3) << " " << quoted(kLabel3Text) << "\n";
-    out << "Label1 " << edges(l.Label1) << " " << quoted(kLabel1Text) << "\n";
+    out << "Picture4 " << edges(summary.Picture4) << "\n";
+    out << "Label2 " << edges(summary.Label2) << " " << quoted(kLabel2Text) << "\n";
+    out << "Picture3 " << edges(summary.Picture3) << "\n";
+    out << "Label3 " << edges(summary.Label3) << " " << quoted(kLabel3Text) << "\n";
+    out << "Label1 " << edges(summary.Label1) << " " << quoted(kLabel1Text) << "\n";
     const std::pair<const char*, const TwipsRect*> labels[] = {
-        {"lblbow", &l.lblbow},   {"lblpax", &l.lblpax},       {"lblmf", &l.lblmf},
-        {"lbltot", &l.lbltot},   {"warning", &l.warning},     {"lblpass", &l.lblpass},
-        {"lblmaxtow", &l.lblmaxtow}, {"lblmaxfuel", &l.lblmaxfuel},
+        {"lblbow", &summary.lblbow},       {"lblpax", &summary.lblpax},         {"lblmf", &summary.lblmf},
+        {"lbltot", &summary.lbltot},       {"warning", &summary.warning},       {"lblpass", &summary.lblpass},
+        {"lblmaxtow", &summary.lblmaxtow}, {"lblmaxfuel", &summary.lblmaxfuel},
     };
     for (const auto& [name, rect] : labels)
         out << name << " " << edges(*rect) << "\n";
-    out << "Line1 (" << l.Line1.x1 << ", " << l.Line1.y1 << ") to (" << l.Line1.x2 << ", " << l.Line1.y2 << ")\n";
+    const TwipsLine& line = summary.Line1;
+    out << "Line1 (" << line.x1 << ", " << line.y1 << ") to (" << line.x2 << ", " << line.y2 << ")\n";
     const RegionalMenus& m = type.menus;
-    for (const MenuItem* item : {&m.mnufile, &m.mnuload, &m.mnusave, &m.mnuauto, &m.mnulight, &m.mnumed, &m.mnuheav})
+    for (const MenuItem* item :
+         {&m.mnufile, &m.mnuload, &m.mnusave, &m.mnuauto, &m.mnulight, &m.mnumed, &m.mnuheav})
         out << item->name << " " << quoted(item->caption) << "\n";
     for (std::size_t i = 0; i < form.location.size(); ++i) {
         out << "location(" << i << ") " << edges(form.location[i].rect) << "\n";
@@ -55,7 +57,8 @@ std::string describe(const RegionalForm& form)
         out << "Shape1(" << i << ") ";
         if (marker.kind == MarkerKind::Circle) {
             EXPECT_EQ(marker.rect.width, marker.rect.height) << "Shape1(" << i << ") is a circle";
-            out << "circle " << marker.rect.width << " at " << marker.rect.left << ", " << marker.rect.top << "\n";
+            out << "circle " << marker.rect.width << " at " << marker.rect.left << ", " << marker.rect.top
+                << "\n";
         } else {
             out << "hatched box " << edges(marker.rect) << "\n";
         }
@@ -69,7 +72,8 @@ TEST_P(RegionalLayout, EveryControlStandsWhereTheTableSays)
 {
     RegionalRig rig;
     const RegionalForm& form = rig.open(*GetParam());
-    const std::string golden = std::string(QUILLET_TEST_DATA) + "/" + std::string(GetParam()->form) + ".layout";
+    const std::string golden =
+        std::string(QUILLET_TEST_DATA) + "/" + std::string(GetParam()->form) + ".layout";
     EXPECT_EQ(describe(form), TempDir::readFile(golden));
 }
 

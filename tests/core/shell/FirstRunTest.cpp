@@ -8,9 +8,8 @@
 #include "ShellFixture.h"
 #include "regional/RegionalForms.h"
 
-#include <gtest/gtest.h>
-
 #include <cctype>
+#include <gtest/gtest.h>
 #include <string>
 
 namespace quillet {
