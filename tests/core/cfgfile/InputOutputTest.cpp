@@ -169,6 +169,24 @@ TEST_F(CfgFileTest, TheFirstSectionIsFoundAndReplacedWhereverItStands)
     }
 }
 
+TEST_F(CfgFileTest, TwoMenuEntriesOfOneTypeUseTheFolderOfTheLast)
+{
+    LoadState& s = session.state;
+    s.nmenu = 3;
+    s.menutype[2] = kType;
+    s.menufolder[2] = "beech_b";
+    writeCfg("[WEIGHT_AND_BALANCE]\r\nfirst\r\n");
+    dir.write("fs2000/aircraft/beech_b/aircraft.cfg", "[WEIGHT_AND_BALANCE]\r\nlast\r\n");
+
+    ASSERT_TRUE(readcfg(session));
+    EXPECT_EQ(s.cfglines[1], "last");
+    EXPECT_FALSE(fs::exists(backup()));
+    EXPECT_EQ(dir.read("fs2000/aircraft/beech_b/aircraft.cfg.bak"), "[WEIGHT_AND_BALANCE]\r\nlast\r\n");
+    ASSERT_TRUE(writecfg(session));
+    EXPECT_EQ(TempDir::readFile(cfg()), "[WEIGHT_AND_BALANCE]\r\nfirst\r\n");
+    EXPECT_EQ(dir.read("fs2000/aircraft/beech_b/aircraft.cfg"), "[WEIGHT_AND_BALANCE]\r\n" + block());
+}
+
 TEST_F(CfgFileTest, AHandEditedStationFileIsShownAndWritten)
 {
     writeCfg("[WEIGHT_AND_BALANCE]\r\n");

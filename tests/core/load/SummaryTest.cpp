@@ -143,10 +143,10 @@ TEST(WeightSummary, FreightersCountMainDeckContainers)
     EXPECT_EQ(form.labels.lblpass.text, "Passengers  0 / 0") << "type strings compare with letter case";
 }
 
-TEST(WeightSummary, LeftoverStationsBeyondTheTypeWidenTheSpan)
+// A load 0.4 ft aft of the reference point: out of balance on its 16 ft span (limit 0.32 ft), but
+// not once a station at x = -30 widens the span to 38 ft (limit 0.76 ft).
+LoadState slightlyAft()
 {
-    // A load 0.4 ft aft of the reference point is out of balance on a 16 ft span (limit 0.32 ft)
-    // but not once an earlier type's station at x = 30 widens the span to 46 ft (limit 0.92 ft).
     LoadState state;
     state.emptyweight = 1000;
     state.maxtakeoff = state.maxzerofuel = state.maxfuel = 1e6f;
@@ -156,13 +156,45 @@ TEST(WeightSummary, LeftoverStationsBeyondTheTypeWidenTheSpan)
     state.stationweight[0] = 100;
     state.stationweight[1] = 100 - 1101 * 0.4f / 8; // cg at about -0.4 ft
     state.loadweight = state.stationweight[0] + state.stationweight[1];
+    return state;
+}
+
+TEST(WeightSummary, LeftoverStationsBeyondTheTypeWidenTheSpan)
+{
+    LoadState state = slightlyAft();
     TestForm form;
     summary(form, state, "Beech 1900D");
     EXPECT_TRUE(form.labels.warning.visible);
+    EXPECT_EQ(dot(form.picture4).colour, kRed);
 
     state.stationx[300] = -30; // left over from a larger type, weight 0
     summary(form, state, "Beech 1900D");
     EXPECT_FALSE(form.labels.warning.visible);
+}
+
+TEST(WeightSummary, TheBalanceTakesStationsUpTo400)
+{
+    for (const int station : {400, 401}) {
+        SCOPED_TRACE(station);
+        LoadState state = slightlyAft();
+        state.stationx[station] = -30;
+        TestForm form;
+        summary(form, state, "Beech 1900D");
+        EXPECT_EQ(form.labels.warning.visible, station == 401);
+        EXPECT_EQ(dot(form.picture4).colour, station == 401 ? kRed : kBlue);
+    }
+
+    // A weight there moves the centre of gravity: 250 lb at x = 4 puts it 0.69 ft forward.
+    for (const int station : {400, 401}) {
+        SCOPED_TRACE(station);
+        LoadState state = slightlyAft();
+        state.stationweight[1] = 100; // balanced without it
+        state.stationx[station] = 4;
+        state.stationweight[station] = 250;
+        TestForm form;
+        summary(form, state, "Beech 1900D");
+        EXPECT_EQ(dot(form.picture4).colour, station == 400 ? kRed : kBlue);
+    }
 }
 
 TEST(BalanceIndicator, BeechFigures)

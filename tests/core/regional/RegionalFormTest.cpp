@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace quillet {
 namespace {
 
@@ -18,13 +20,15 @@ TEST(RegionalSetUp, WritesTheTypeTableIntoTheLoadState)
         const RegionalType& type;
         int stations;
         float emptyweight, maxtakeoff, maxzerofuel;
+        int maxpax;
         int lastPassenger;
         const char* lastPassengerName;
+        float x40; // station 40's position: a seat of the DHC-8-300, cleared by the others
     };
     const Expected all[] = {
-        {beechType(), 23, 10615, 16950, 15000, 21, "Passenger 9C"},
-        {emb120Type(), 33, 15741, 25353, 22245, 31, "Passenger 10D"},
-        {dhc8Type(), 53, 25888, 43000, 39500, 51, "Passenger 12D"},
+        {beechType(), 23, 10615, 16950, 15000, 19, 21, "Passenger 9C", 0},
+        {emb120Type(), 33, 15741, 25353, 22245, 30, 31, "Passenger 10D", 0},
+        {dhc8Type(), 53, 25888, 43000, 39500, 50, 51, "Passenger 12D", -9.5f},
     };
     for (const Expected& expected : all) {
         SCOPED_TRACE(expected.type.form);
@@ -38,8 +42,8 @@ TEST(RegionalSetUp, WritesTheTypeTableIntoTheLoadState)
 
         EXPECT_EQ(state.cfgstations, expected.stations);
         EXPECT_EQ(state.nstations + state.ncargo, expected.stations);
-        EXPECT_EQ(state.maxpax, expected.lastPassenger - form.type().roles.firstPassenger + 1);
-        EXPECT_EQ(state.seats2, state.maxpax);
+        EXPECT_EQ(state.maxpax, expected.maxpax);
+        EXPECT_EQ(state.seats2, expected.maxpax);
         EXPECT_EQ(state.ncrew, 2);
         EXPECT_EQ(state.emptyweight, expected.emptyweight);
         EXPECT_EQ(state.maxtakeoff, expected.maxtakeoff);
@@ -47,7 +51,7 @@ TEST(RegionalSetUp, WritesTheTypeTableIntoTheLoadState)
         EXPECT_EQ(state.loadweight, 0);
         EXPECT_EQ(state.stationname[expected.lastPassenger], expected.lastPassengerName);
         EXPECT_EQ(state.stationname[expected.stations - 1], "Cargo");
-        EXPECT_EQ(state.stationx[40], expected.stations > 40 ? state.stationx[40] : 0.0f);
+        EXPECT_EQ(state.stationx[40], expected.x40);
         ASSERT_EQ(form.location.size(), static_cast<std::size_t>(expected.stations));
         for (int i = 0; i < expected.stations; ++i) {
             EXPECT_EQ(form.location[i].tooltip, "Empty");
@@ -232,6 +236,27 @@ TEST(RegionalSeatClick, OnlyPassengerSeatsCountAsPassengers)
     EXPECT_EQ(rig.session.state.npax, 2);
     EXPECT_EQ(form.labels.lblpass.text, "Passengers  2 / 19");
     EXPECT_EQ(rig.session.state.loadweight, rig.sumOfWeights());
+}
+
+TEST(RegionalSeatClick, ExactlyThePassengerSeatsCount)
+{
+    struct Seats {
+        const RegionalType& type;
+        int stations, firstPassenger, lastPassenger;
+    };
+    const Seats all[] = {{beechType(), 23, 3, 21}, {emb120Type(), 33, 2, 31}, {dhc8Type(), 53, 2, 51}};
+    for (const Seats& seats : all) {
+        SCOPED_TRACE(seats.type.form);
+        RegionalRig rig;
+        RegionalForm& form = rig.open(seats.type);
+        for (int station = 0; station < seats.stations; ++station) {
+            rig.prompt.answer("100");
+            form.location_Click(station);
+            const int passengers = std::clamp(station, seats.firstPassenger - 1, seats.lastPassenger) -
+                                   seats.firstPassenger + 1;
+            ASSERT_EQ(rig.session.state.npax, passengers) << "after station " << station;
+        }
+    }
 }
 
 TEST(RegionalSeatClick, StationsBeyondTheFormAreLeftAlone)

@@ -1,6 +1,9 @@
 #include "RegionalRig.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
 #include <vector>
 
 namespace quillet {
@@ -157,42 +160,144 @@ TEST(RegionalPresets, CrewKeepTheirWeights)
     }
 }
 
+// The presets as published, one row per member: the passenger counts that the draws 0 and just under
+// 1 give, the seats the first and last draws of the range give, and the hold's baggage per passenger
+// and spread. The heavy rows give the range of the seats emptied at the smallest count.
+struct PublishedPreset {
+    const RegionalType& type;
+    void (RegionalForm::*click)();
+    int passengersAtZero, passengersAtOne;
+    int firstSeat, lastSeat;
+    int perPassenger, spread;
+    std::vector<int> reserved; // heavy: emptied first at the smallest count
+};
+
+const std::vector<PublishedPreset>& publishedPresets()
+{
+    static const std::vector<PublishedPreset> all{
+        {beechType(), &RegionalForm::mnulight_Click, 1, 6, 3, 20, 15, 20, {}},
+        {beechType(), &RegionalForm::mnumed_Click, 7, 12, 3, 20, 15, 20, {}},
+        {beechType(), &RegionalForm::mnuheav_Click, 19, 14, 3, 20, 15, 20, {20}},
+        {emb120Type(), &RegionalForm::mnulight_Click, 1, 10, 3, 20, 13, 20, {}},
+        {emb120Type(), &RegionalForm::mnumed_Click, 11, 20, 2, 31, 8, 16, {}},
+        {emb120Type(), &RegionalForm::mnuheav_Click, 30, 21, 3, 20, 8, 16, {29}},
+        {dhc8Type(), &RegionalForm::mnulight_Click, 1, 17, 2, 50, 13, 20, {}},
+        {dhc8Type(), &RegionalForm::mnumed_Click, 11, 44, 2, 50, 14, 20, {}},
+        {dhc8Type(), &RegionalForm::mnuheav_Click, 50, 35, 3, 49, 15, 20, {6, 7}},
+    };
+    return all;
+}
+
+std::string nameOf(const PublishedPreset& p)
+{
+    const char* which = p.click == &RegionalForm::mnulight_Click ? " light"
+                        : p.click == &RegionalForm::mnumed_Click ? " medium"
+                                                                 : " heavy";
+    return std::string(p.type.form) + which;
+}
+
+bool isHeavy(const PublishedPreset& p)
+{
+    return p.click == &RegionalForm::mnuheav_Click;
+}
+
+constexpr double kJustUnderOne = 0.9999999;
+
+TEST(RegionalPresets, DrawsOfZeroAndJustUnderOneGiveTheEndsOfEveryRange)
+{
+    for (const PublishedPreset& p : publishedPresets()) {
+        SCOPED_TRACE(nameOf(p));
+        const int seatCount = p.lastSeat - p.firstSeat + 1;
+        for (const double extreme : {0.0, kJustUnderOne}) {
+            SCOPED_TRACE(extreme);
+            RegionalRig rig;
+            RegionalForm& form = rig.open(p.type);
+            const int n = extreme == 0.0 ? p.passengersAtZero : p.passengersAtOne;
+            const int endSeat = extreme == 0.0 ? p.firstSeat : p.lastSeat;
+            // Seats to place on (or to empty) after the one the extreme draw gives, all inside the range.
+            std::vector<double> seatDraws{extreme};
+            for (int k = 1; k < seatCount; ++k) {
+                const int seat = extreme == 0.0 ? p.firstSeat + k : p.lastSeat - k;
+                seatDraws.push_back((seat - p.firstSeat + 0.5) / seatCount);
+            }
+
+            rig.random.push(extreme); // the number of passengers
+            int seatsDrawn = 0;
+            if (isHeavy(p)) {
+                const int allSeats = p.type.roles.lastPassenger - p.type.roles.firstPassenger + 1;
+                for (int k = 0; k < allSeats; ++k)
+                    rig.random.push(extreme); // every seat's passenger
+                seatsDrawn = extreme == 0.0 ? 0 : allSeats - static_cast<int>(p.reserved.size()) - n;
+                // A reserved seat at the end of the range is empty already: that draw is taken again.
+                const bool endReserved =
+                    std::find(p.reserved.begin(), p.reserved.end(), endSeat) != p.reserved.end();
+                for (int k = 0; k < seatsDrawn + (endReserved ? 1 : 0); ++k)
+                    rig.random.push(seatDraws[static_cast<std::size_t>(k)]);
+                rig.random.push(extreme); // the hold
+            } else {
+                rig.random.push(extreme); // the hold
+                seatsDrawn = n;
+                for (int k = 0; k < n; ++k) {
+                    rig.random.push(extreme);
+                    rig.random.push(seatDraws[static_cast<std::size_t>(k)]);
+                }
+            }
+            (form.*p.click)();
+
+            const LoadState& state = rig.session.state;
+            EXPECT_EQ(rig.random.left(), 0u);
+            EXPECT_EQ(rig.random.overdrawn(), 0);
+            EXPECT_EQ(state.npax, n);
+            // Int(n × spread × draw): 0, or one short of n × spread.
+            const int extra = extreme == 0.0 ? 0 : n * p.spread - 1;
+            EXPECT_EQ(state.stationweight[p.type.roles.hold], p.perPassenger * n + extra);
+            if (seatsDrawn > 0) {
+                // A placed passenger, or a seat emptied, at the end of the range.
+                EXPECT_EQ(state.stationweight[endSeat] > 0, !isHeavy(p)) << "seat " << endSeat;
+            }
+            for (int seat : occupiedPassengerSeats(rig, p.type)) {
+                if (extreme == 0.0)
+                    EXPECT_EQ(state.stationweight[seat], 54);
+                else
+                    EXPECT_FLOAT_EQ(state.stationweight[seat], 242);
+                if (!isHeavy(p)) {
+                    EXPECT_GE(seat, p.firstSeat);
+                    EXPECT_LE(seat, p.lastSeat);
+                }
+            }
+            for (int seat : isHeavy(p) && extreme != 0.0 ? p.reserved : std::vector<int>{})
+                EXPECT_EQ(state.stationweight[seat], 0) << "reserved seat " << seat;
+        }
+    }
+}
+
 TEST(RegionalPresets, EveryPresetKeepsItsRangesAndTheSum)
 {
     for (const RegionalType* type : regionalTypes()) {
+        SCOPED_TRACE(type->form);
         SeededRandom generator;
         RegionalRig rig(&generator);
         RegionalForm& form = rig.open(*type);
-        const RegionalPresets& presets = type->presets;
-        struct Member {
-            void (RegionalForm::*click)();
-            int least, most, perPassenger;
-        };
-        const auto range = [](const CountDraw& d) {
-            const int other = d.base + d.sign * (d.spread - 1);
-            return std::pair{std::min(d.base, other), std::max(d.base, other)};
-        };
-        const Member members[] = {
-            {&RegionalForm::mnulight_Click, range(presets.light.passengers).first,
-             range(presets.light.passengers).second, presets.light.baggage.perPassenger},
-            {&RegionalForm::mnumed_Click, range(presets.medium.passengers).first,
-             range(presets.medium.passengers).second, presets.medium.baggage.perPassenger},
-            {&RegionalForm::mnuheav_Click, range(presets.heavy.passengers).first,
-             range(presets.heavy.passengers).second, presets.heavy.baggage.perPassenger},
-        };
         for (int round = 0; round < 40; ++round) {
-            for (const Member& member : members) {
-                (form.*member.click)();
+            for (const PublishedPreset& p : publishedPresets()) {
+                if (&p.type != type)
+                    continue;
+                (form.*p.click)();
                 const LoadState& state = rig.session.state;
-                ASSERT_GE(state.npax, member.least) << type->form;
-                ASSERT_LE(state.npax, member.most) << type->form;
-                ASSERT_GE(state.stationweight[type->roles.hold], member.perPassenger * state.npax);
+                ASSERT_GE(state.npax, std::min(p.passengersAtZero, p.passengersAtOne)) << nameOf(p);
+                ASSERT_LE(state.npax, std::max(p.passengersAtZero, p.passengersAtOne)) << nameOf(p);
+                ASSERT_GE(state.stationweight[type->roles.hold], p.perPassenger * state.npax);
+                ASSERT_LT(state.stationweight[type->roles.hold], (p.perPassenger + p.spread) * state.npax);
                 for (int seat : occupiedPassengerSeats(rig, *type)) {
                     ASSERT_GE(state.stationweight[seat], 54);
                     ASSERT_LT(state.stationweight[seat], 242);
+                    if (!isHeavy(p)) {
+                        ASSERT_GE(seat, p.firstSeat) << nameOf(p);
+                        ASSERT_LE(seat, p.lastSeat) << nameOf(p);
+                    }
                 }
-                if (type->roles.avionics >= 0) {
-                    ASSERT_EQ(state.stationweight[type->roles.avionics], 100);
+                if (type == &beechType()) {
+                    ASSERT_EQ(state.stationweight[0], 100) << "avionics";
                 }
                 ASSERT_EQ(state.loadweight, rig.sumOfWeights());
             }

@@ -94,6 +94,18 @@ TEST_F(MainWindow, EachSelectionRecomputesTheLinesFromThatType)
     EXPECT_EQ(session.messages.pending().size(), 1u) << "a missing picture is told once";
 }
 
+TEST_F(MainWindow, LeavingTheListShowsTheStoredLoadAgain)
+{
+    form1.Form_Load();
+    session.state.loadweight = 999; // changed since, and not saved
+    beech->calls.clear();
+    form1.Combo1_Validate();
+    ASSERT_GE(beech->calls.size(), 2u);
+    EXPECT_EQ(std::vector<std::string>(beech->calls.begin(), beech->calls.begin() + 2),
+              (std::vector<std::string>{"Form_Load", "mnuload_Click"}));
+    EXPECT_EQ(form1.lblpax.text, "PAX weight =  340 lb.");
+}
+
 TEST_F(MainWindow, TypeStringsCompareWithLetterCase)
 {
     form1.Form_Load();

@@ -101,6 +101,17 @@ TEST_F(StartUp, ListsOnlyEntriesWhoseFolderHoldsAircraftCfgInAnyCase)
     EXPECT_TRUE(told("quillet.ini").empty());
 }
 
+TEST_F(StartUp, TwoEntriesOfOneTypeAreBothListedAndTheLastFolderIsUsed)
+{
+    dir.makeSimulator();
+    dir.makeAircraft("beech_a");
+    dir.makeAircraft("beech_b");
+    dir.writeIni(dir.sim(), {"Beech 1900D,beech_a", "Beech 1900D,beech_b"});
+    form1.Form_Load();
+    EXPECT_EQ(form1.Combo1.items(), (std::vector<std::string>{"Beech 1900D", "Beech 1900D"}));
+    EXPECT_EQ(form1.form4().Valid_dir.text(), "beech_b") << "the configuration dialog shows the last folder";
+}
+
 TEST_F(StartUp, LineTwoZeroLeavesTheListEmpty)
 {
     dir.makeSimulator("FS2000.EXE");

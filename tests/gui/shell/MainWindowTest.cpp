@@ -3,6 +3,7 @@
 #include "shell/ConfigDialog.h"
 
 #include <QCheckBox>
+#include <QFocusEvent>
 #include <QPushButton>
 #include <QTest>
 
@@ -67,6 +68,36 @@ TEST_F(MainWindowGui, WithoutASimulatorTheConfigurationDialogOpens)
     QApplication::processEvents();
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(find<QComboBox>(main(), "Combo1")->count(), 1) << "closing reads the settings back";
+}
+
+TEST_F(MainWindowGui, MovingOnFromTheAircraftListShowsTheStoredLoadAgain)
+{
+    dir.makeSimulator();
+    dir.makeAircraft("beech");
+    dir.writeIni(dir.sim(), {"Beech 1900D,beech"});
+    start();
+    ASSERT_EQ(text("lblpax"), "PAX weight =  0 lb.");
+
+    // Another copy of the program saves a pilot of 170 lb meanwhile.
+    std::string stations = dir.read("Beech 1900D.cfg");
+    const std::string pilot = "\"Pilot\",13.5,-2,0,0\r\n";
+    ASSERT_NE(stations.find(pilot), std::string::npos);
+    stations.replace(stations.find(pilot), pilot.size(), "\"Pilot\",13.5,-2,0,170\r\n");
+    dir.write("Beech 1900D.cfg", stations);
+
+    auto* combo = find<QComboBox>(main(), "Combo1");
+    QApplication::setActiveWindow(main());
+    combo->setFocus(Qt::OtherFocusReason);
+    QApplication::processEvents();
+
+    // Another window taking the focus, a message box say, is not moving on.
+    QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(combo, &away);
+    EXPECT_EQ(text("lblpax"), "PAX weight =  0 lb.");
+
+    QTest::keyClick(combo, Qt::Key_Tab);
+    EXPECT_FALSE(combo->hasFocus());
+    EXPECT_EQ(text("lblpax"), "PAX weight =  170 lb.");
 }
 
 TEST_F(MainWindowGui, ConverterAnswersWhatIsTyped)
