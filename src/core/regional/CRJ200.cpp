@@ -2,14 +2,14 @@
 
 #include "CabinDrawing.h"
 #include "cfgfile/inputoutput.h"
+#include "load/DeckMapping.h"
+#include "load/StationInput.h"
 #include "load/StationLabel.h"
 #include "platform/Format.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <limits>
-#include <optional>
 #include <string>
 
 namespace quillet {
@@ -35,10 +35,11 @@ constexpr double kInformationGap = 100;
 
 std::int16_t toMapTwips(double twips)
 {
-    // A position a hand-edited station file puts far off the map must still fit.
-    const double limited = std::clamp(roundHalfEven(twips), double(std::numeric_limits<std::int16_t>::min()),
-                                      double(std::numeric_limits<std::int16_t>::max()));
-    return static_cast<std::int16_t>(std::isnan(limited) ? 0 : limited);
+    // A position a hand-edited station file puts far off the map must still become a whole number.
+    const double rounded = roundHalfEven(twips);
+    if (!std::isfinite(rounded))
+        return 0;
+    return toMarker(static_cast<int>(std::clamp(rounded, -1e9, 1e9)));
 }
 
 std::int16_t seatMapX(double x)
@@ -72,16 +73,6 @@ CabinPlan cabinPlanOf(const RegionalType& type)
     const StationRow& hold = stations[static_cast<std::size_t>(type.roles.hold)];
     plan.holds.push_back({around(hold, kHoldHalfLength, kHoldHalfWidth), hold.name});
     return plan;
-}
-
-// A seat's answer is stored as typed, a negative weight included; only a number no weight can hold
-// counts as 0.
-float seatAnswer(const std::optional<std::string>& answer)
-{
-    const double value = val(answer.value_or(std::string()));
-    if (!std::isfinite(value) || std::fabs(value) > std::numeric_limits<float>::max())
-        return 0;
-    return static_cast<float>(value);
 }
 
 } // namespace
@@ -155,9 +146,9 @@ void CRJ200::Picture2_MouseDown(int Button, int Shift, double X, double Y)
             m_picture2->setCurrentPoint(X, Y);
             m_picture2->print(shortestNumber(state.stationweight[i]));
         } else if (state.stationweight[i] == 0) {
-            const float weight = seatAnswer(m_session.prompt.inputBox(state.stationname[i] + " weight in lbs",
-                                                                      std::string(kPaxDetailsTitle),
-                                                                      std::string(kDefaultWeight)));
+            const float weight = typedWeight(
+                m_session.prompt.inputBox(state.stationname[i] + " weight in lbs",
+                                          std::string(kPaxDetailsTitle), std::string(kDefaultWeight)));
             // A negative answer is kept as typed but neither drawn nor counted in the load.
             state.stationweight[i] = weight;
             if (weight > 0) {
@@ -245,10 +236,7 @@ void CRJ200::drawHoldBox()
 void CRJ200::drawInformationBox(int station)
 {
     const LoadState& state = m_session.state;
-    Canvas& map = *m_picture2;
-    map.setFillStyle(FillStyle::Solid);
-    map.setFillColor(kWhite);
-    drawStationLabel(map, stationLabelText(state.stationname[station], state.stationweight[station]),
+    drawStationLabel(*m_picture2, stationLabelText(state.stationname[station], state.stationweight[station]),
                      state.stationpx[station], state.stationpy[station], LabelPlacement{kInformationGap});
 }
 

@@ -2,20 +2,15 @@
 
 #include "RegionalPresets.h"
 #include "cfgfile/inputoutput.h"
-#include "platform/Format.h"
+#include "load/StationInput.h"
 
-#include <limits>
+#include <algorithm>
 
 namespace quillet {
 
 float weightAnswer(const std::optional<std::string>& answer)
 {
-    const double value = val(answer.value_or(std::string()));
-    // A number a single-precision weight cannot hold, or one too small to stay above 0 in it, is
-    // no weight at all.
-    if (!(value > 0) || value > std::numeric_limits<float>::max())
-        return 0;
-    return static_cast<float>(value);
+    return std::max(typedWeight(answer), 0.0f);
 }
 
 RegionalLoadForm::RegionalLoadForm(Session& session, const RegionalType& type)
