@@ -1,6 +1,5 @@
 #include "Drawing.h"
 #include "FreighterRig.h"
-#include "Golden.h"
 
 #include <algorithm>
 #include <cmath>
@@ -174,13 +173,6 @@ TEST(DC10FTable, AMissingPictureIsToldOnceAndTheFormStillOpens)
     const auto& told = rig.session.messages.pending();
     ASSERT_EQ(told.size(), 1u);
     EXPECT_NE(told[0].find("DC-10-30F.gif"), std::string::npos);
-}
-
-TEST(DC10FTable, TheFirstStationFileHoldsTheTableWithEveryWeightZero)
-{
-    FreighterRig rig;
-    rig.open();
-    expectGoldenFile("DC-10-30F.cfg", rig.dir.read("DC-10-30F.cfg"));
 }
 
 TEST(DC10FMouse, OverlappingContainersAskOneAfterTheOtherAndSeparatePairsDoNot)

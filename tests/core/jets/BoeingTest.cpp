@@ -334,7 +334,7 @@ TEST(JetMouse, HoverLabelNamesTheStationBesideIt)
     EXPECT_EQ(label.text, " Passenger 1A 170 lb.");
     EXPECT_EQ(label.fontSize, 8);
     EXPECT_EQ(label.x1, 3097.5);
-    const DrawOp& box = rig.picture().ops(DrawOp::Kind::Box).back();
+    const DrawOp box = rig.picture().ops(DrawOp::Kind::Box).back();
     EXPECT_EQ(box.x1, 3097.5);
     EXPECT_EQ(box.fillStyle, FillStyle::Solid);
     EXPECT_EQ(box.fillColor, kWhite);

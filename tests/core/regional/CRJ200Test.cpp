@@ -1,4 +1,3 @@
-#include "Golden.h"
 #include "RegionalRig.h"
 #include "regional/RegionalForms.h"
 #include "shell/Form1.h"
@@ -143,11 +142,6 @@ TEST_F(CRJ200SetUp, WritesTheLimitsAndPlacesEveryStationOnTheSeatMap)
     EXPECT_EQ(form.photo, rig.dir.path() / "CRJ200.gif");
 }
 
-TEST_F(CRJ200SetUp, TheFirstStationFileHoldsTheTableWithEveryWeightZero)
-{
-    expectGoldenFile("CRJ-200ER.cfg", rig.dir.read("CRJ-200ER.cfg"));
-}
-
 TEST_F(CRJ200SetUp, AStationFileMovesTheSeatsOnTheMapAtTheNextSetUp)
 {
     std::string stations = rig.dir.read("CRJ-200ER.cfg");
@@ -230,7 +224,7 @@ TEST_F(CRJ200Click, ALeftClickAsksForAnEmptySeatsWeightAndEmptiesALoadedSeat)
     EXPECT_EQ(rig.prompt.asked().size(), 1u) << "emptied without asking";
     EXPECT_EQ(state.stationweight[kSeat1A], 0);
     EXPECT_EQ(state.loadweight, 0);
-    const DrawOp& erased = seatMap(form).ops(DrawOp::Kind::Circle).back();
+    const DrawOp erased = seatMap(form).ops(DrawOp::Kind::Circle).back();
     EXPECT_TRUE(same(erased.x1, kSeat1AX) && same(erased.y1, kSeat1AY));
     EXPECT_TRUE(same(erased.radius, 51));
     EXPECT_EQ(erased.colour, kWhite);
@@ -385,7 +379,7 @@ TEST_F(CRJ200Hover, ALoadedStationShowsItsInformationBoxUntilThePointerMovesOff)
     auto texts = ofKind(map, DrawOp::Kind::Text);
     ASSERT_EQ(texts.size(), 1u);
     EXPECT_EQ(texts[0].text, " Passenger 1A 170 lb.");
-    const DrawOp& box = ofKind(map, DrawOp::Kind::Box).back();
+    const DrawOp box = ofKind(map, DrawOp::Kind::Box).back();
     EXPECT_TRUE(same(box.x1, kSeat1AX + 100));
     EXPECT_TRUE(same((box.y1 + box.y2) / 2, kSeat1AY));
     EXPECT_EQ(box.colour, kBlack);

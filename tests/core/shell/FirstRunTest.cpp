@@ -1,11 +1,12 @@
 // The station file each type writes the first time it is read: its built-in table with nobody
 // aboard, compared byte for byte with a file under tests/data that was checked by hand against the
 // type's published table, through the main window as a user meets it. A new type adds one line to
-// kFirstRuns and its file; a new form also its maker to registerLoadForms. The jet and freighter
-// tests compare their types' files with the same helper from their own rigs.
+// kFirstRuns and its file.
 
 #include "Golden.h"
 #include "ShellFixture.h"
+#include "freighter/FreighterForms.h"
+#include "jets/JetForms.h"
 #include "regional/RegionalForms.h"
 
 #include <cctype>
@@ -24,12 +25,24 @@ const FirstRun kFirstRuns[] = {
     {"Beech 1900D", "Beech 1900D.cfg"},
     {"Empraer EMB_120", "Empraer EMB_120.cfg"},
     {"DHC-8-300", "DHC-8-300.cfg"},
+    {"CRJ-200ER", "CRJ-200ER.cfg"},
+    {"B737-300", "B737-300.cfg"},
+    {"B737-200ADV", "B737-200ADV.cfg"},
+    {"B757-200", "B757-200.cfg"},
+    {"B757-200F", "B757-200F.cfg"},
+    {"B727-212ADV", "B727-212ADV.cfg"},
+    {"B767-300ER", "B767-300ER.cfg"},
+    {"MD-90-30", "MD-90-30.cfg"},
+    {"DC-9-30F", "DC-9-30F.cfg"},
+    {"DC-8-71F", "DC-8-71F.cfg"},
+    {"DC-10-30F", "DC-10-30F.cfg"},
 };
 
-// The forms of the types above.
 void registerLoadForms(FormRegistry& forms)
 {
     registerRegionalForms(forms);
+    registerJetForms(forms);
+    registerFreighterForms(forms);
 }
 
 class FirstRunStationFile : public ShellFixture, public ::testing::WithParamInterface<FirstRun> {};
