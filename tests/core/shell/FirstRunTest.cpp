@@ -22,20 +22,13 @@ struct FirstRun {
 };
 
 const FirstRun kFirstRuns[] = {
-    {"Beech 1900D", "Beech 1900D.cfg"},
-    {"Empraer EMB_120", "Empraer EMB_120.cfg"},
-    {"DHC-8-300", "DHC-8-300.cfg"},
-    {"CRJ-200ER", "CRJ-200ER.cfg"},
-    {"B737-300", "B737-300.cfg"},
-    {"B737-200ADV", "B737-200ADV.cfg"},
-    {"B757-200", "B757-200.cfg"},
-    {"B757-200F", "B757-200F.cfg"},
-    {"B727-212ADV", "B727-212ADV.cfg"},
-    {"B767-300ER", "B767-300ER.cfg"},
-    {"MD-90-30", "MD-90-30.cfg"},
-    {"DC-9-30F", "DC-9-30F.cfg"},
-    {"DC-8-71F", "DC-8-71F.cfg"},
-    {"DC-10-30F", "DC-10-30F.cfg"},
+    {"Beech 1900D", "Beech 1900D.cfg"}, {"Empraer EMB_120", "Empraer EMB_120.cfg"},
+    {"DHC-8-300", "DHC-8-300.cfg"},     {"CRJ-200ER", "CRJ-200ER.cfg"},
+    {"B737-300", "B737-300.cfg"},       {"B737-200ADV", "B737-200ADV.cfg"},
+    {"B757-200", "B757-200.cfg"},       {"B757-200F", "B757-200F.cfg"},
+    {"B727-212ADV", "B727-212ADV.cfg"}, {"B767-300ER", "B767-300ER.cfg"},
+    {"MD-90-30", "MD-90-30.cfg"},       {"DC-9-30F", "DC-9-30F.cfg"},
+    {"DC-8-71F", "DC-8-71F.cfg"},       {"DC-10-30F", "DC-10-30F.cfg"},
 };
 
 void registerLoadForms(FormRegistry& forms)

@@ -7,13 +7,23 @@
 #include <QDialog>
 #include <QTest>
 #include <QTimer>
+#include <iterator>
 
 namespace quillet {
 namespace {
 
-const char* const kForms[] = {"Beech", "Emb120", "DHC8", "Boeing"};
+// Each kind of load form, in the order of the aircraft list below, with its caption.
+struct FormWindow {
+    const char* form;
+    const char* caption;
+};
+const FormWindow kForms[] = {
+    {"Beech", "Quillet - Beech 1900D"},           {"Emb120", "Quillet - Embraer EMB-120"},
+    {"DHC8", "Quillet - Bombardier DHC-8-300"},   {"Boeing", "B737-300"},
+    {"CRJ200", "Quillet - Bombardier CRJ-200ER"}, {"DC10F", "DC-10-30F"},
+};
 
-// The three regional types and a jet on a simulator folder that lacks fs2000.exe, so that the
+// Every kind of load form on a simulator folder that lacks fs2000.exe, so that the
 // configuration dialog opens at start beside the main window.
 class AccessibilityGui : public GuiFixture {
 protected:
@@ -23,8 +33,10 @@ protected:
         dir.makeAircraft("emb120");
         dir.makeAircraft("dhc8");
         dir.makeAircraft("b737");
-        dir.writeIni(dir.sim(),
-                     {"Beech 1900D,beech", "Empraer EMB_120,emb120", "DHC-8-300,dhc8", "B737-300,b737"});
+        dir.makeAircraft("crj");
+        dir.makeAircraft("dc10");
+        dir.writeIni(dir.sim(), {"Beech 1900D,beech", "Empraer EMB_120,emb120", "DHC-8-300,dhc8",
+                                 "B737-300,b737", "CRJ-200ER,crj", "DC-10-30F,dc10"});
         start();
     }
 
@@ -34,7 +46,7 @@ protected:
             app->form1().Combo1.setListIndex(index);
             app->form1().Command2_Click();
         });
-        return app->window(kForms[index]);
+        return app->window(kForms[index].form);
     }
 };
 
@@ -59,11 +71,9 @@ TEST_F(AccessibilityGui, EveryWindowIsAFrameOrADialogNamedByItsTitle)
     expectWindow(main()->findChild<QWidget*>("About"), QAccessible::Dialog, "About Quillet");
     expectWindow(main()->findChild<QWidget*>("Form2"), QAccessible::Dialog, "Quillet - Terms of use");
 
-    const char* const captions[] = {"Quillet - Beech 1900D", "Quillet - Embraer EMB-120",
-                                    "Quillet - Bombardier DHC-8-300", "B737-300"};
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < static_cast<int>(std::size(kForms)); ++i) {
         QWidget* form = open(i);
-        expectWindow(form, QAccessible::Window, captions[i]);
+        expectWindow(form, QAccessible::Window, kForms[i].caption);
         if (form)
             form->close();
     }
@@ -97,8 +107,8 @@ TEST_F(AccessibilityGui, EveryControlOfTheShellWindowsIsNamed)
 
 TEST_F(AccessibilityGui, EveryControlOfTheLoadFormsIsNamedAndAHotSpotTellsItsLoad)
 {
-    for (int i = 0; i < 4; ++i) {
-        SCOPED_TRACE(kForms[i]);
+    for (int i = 0; i < static_cast<int>(std::size(kForms)); ++i) {
+        SCOPED_TRACE(kForms[i].form);
         QWidget* form = open(i);
         ASSERT_NE(form, nullptr);
         EXPECT_EQ(unnamedControls(form), QStringList());
