@@ -1,5 +1,6 @@
 #include "jets/data767.h"
 
+#include "JetChecks.h"
 #include "JetRig.h"
 
 #include <algorithm>
@@ -146,20 +147,12 @@ TEST_F(B767Form, DecksAreDrawnAtTheirPoints)
     rig.picture().forget();
     form->redraw();
     RecordingCanvas& canvas = rig.picture();
-    const auto texts = canvas.ops(DrawOp::Kind::Text);
-    ASSERT_EQ(texts.size(), 4u);
-    EXPECT_EQ(texts[0].text, "Main Deck");
-    EXPECT_DOUBLE_EQ(texts[0].x1, 123.75);
-    EXPECT_DOUBLE_EQ(texts[0].y1, 165);
-    EXPECT_EQ(texts[1].text, "Lower Deck");
-    EXPECT_DOUBLE_EQ(texts[1].y1, 1320);
     // The hold labels start at x = 10 and x = -67 ft.
-    EXPECT_EQ(texts[2].text, "Forward");
-    EXPECT_DOUBLE_EQ(texts[2].x1, 4358.75);
-    EXPECT_DOUBLE_EQ(texts[2].y1, 1595 - canvas.textHeight("T") / 2);
-    EXPECT_EQ(texts[3].text, "Aft");
-    EXPECT_DOUBLE_EQ(texts[3].x1, 8593.75);
-    EXPECT_FALSE(texts[3].bold);
+    expectTexts(canvas, {{"Main Deck", 123.75, 165},
+                         {"Lower Deck", kAnywhere, 1320},
+                         {"Forward", 4358.75, 1595 - canvas.textHeight("T") / 2},
+                         {"Aft", 8593.75, kAnywhere}});
+    EXPECT_FALSE(canvas.ops(DrawOp::Kind::Text).back().bold);
 
     // One fitting box, 261 seats and 30 containers; eight crew circles.
     const auto boxes = canvas.ops(DrawOp::Kind::Box);

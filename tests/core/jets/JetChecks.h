@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <gtest/gtest.h>
 #include <initializer_list>
+#include <limits>
 #include <string_view>
 #include <tuple>
 
@@ -27,6 +28,30 @@ inline LoadState expectSetUp(std::string_view type, const JetLimits& l, const Je
               std::tuple(c.maxpax, c.cfgstations, c.seats1, c.seats2, c.seats3, c.nstations, c.ncargo,
                          c.nlower, c.ncrew));
     return s;
+}
+
+// A text drawn on a deck picture, where the drawing puts it; kAnywhere leaves a coordinate unchecked.
+struct DrawnText {
+    std::string_view text;
+    double x;
+    double y;
+};
+inline constexpr double kAnywhere = std::numeric_limits<double>::quiet_NaN();
+
+// The texts of the picture, in the order they were drawn.
+inline void expectTexts(const RecordingCanvas& canvas, std::initializer_list<DrawnText> expected)
+{
+    const auto texts = canvas.ops(DrawOp::Kind::Text);
+    ASSERT_EQ(texts.size(), expected.size());
+    const DrawOp* drawn = texts.data();
+    for (const DrawnText& text : expected) {
+        EXPECT_EQ(drawn->text, text.text);
+        if (!std::isnan(text.x))
+            EXPECT_DOUBLE_EQ(drawn->x1, text.x) << text.text;
+        if (!std::isnan(text.y))
+            EXPECT_DOUBLE_EQ(drawn->y1, text.y) << text.text;
+        ++drawn;
+    }
 }
 
 // A station as the type's published table gives it; a maximum of 0 for persons.

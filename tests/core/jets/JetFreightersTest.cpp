@@ -1,3 +1,4 @@
+#include "JetChecks.h"
 #include "JetRig.h"
 #include "jets/DataDC8.h"
 #include "jets/DataDC9.h"
@@ -75,17 +76,10 @@ TEST(JetDC9_30F, ContainersAreDrawnEndToEndWithAnInchBetweenTheFirstTwo)
     const auto circles = rig.picture().ops(DrawOp::Kind::Circle);
     ASSERT_EQ(circles.size(), 3u);
     EXPECT_DOUBLE_EQ(circles[0].radius, 45.5);
-    const auto texts = rig.picture().ops(DrawOp::Kind::Text);
-    ASSERT_EQ(texts.size(), 4u);
-    EXPECT_EQ(texts[0].text, "Main Deck");
-    EXPECT_DOUBLE_EQ(texts[0].x1, 422.5);
-    EXPECT_DOUBLE_EQ(texts[0].y1, 97.5);
-    EXPECT_EQ(texts[1].text, "Lower Deck");
-    EXPECT_DOUBLE_EQ(texts[1].y1, 1170);
-    EXPECT_EQ(texts[2].text, "Forward");
-    EXPECT_DOUBLE_EQ(texts[2].x1, 1722.5);
-    EXPECT_EQ(texts[3].text, "Aft");
-    EXPECT_DOUBLE_EQ(texts[3].x1, 7052.5);
+    expectTexts(rig.picture(), {{"Main Deck", 422.5, 97.5},
+                                {"Lower Deck", kAnywhere, 1170},
+                                {"Forward", 1722.5, kAnywhere},
+                                {"Aft", 7052.5, kAnywhere}});
 }
 
 TEST(JetDC8_71F, Container18IsDrawnTurnedNineFeetBehindContainer17)
@@ -104,13 +98,10 @@ TEST(JetDC8_71F, Container18IsDrawnTurnedNineFeetBehindContainer17)
     EXPECT_NEAR(c18.x1, (102 + 76.8333 - 125.0 / 24) * 47, 0.01);
     EXPECT_NEAR((c18.y1 + c18.y2) / 2, 11 * 47, 1e-3);
 
-    const auto texts = rig.picture().ops(DrawOp::Kind::Text);
-    ASSERT_EQ(texts.size(), 4u);
-    EXPECT_DOUBLE_EQ(texts[0].x1, 94);
-    EXPECT_DOUBLE_EQ(texts[0].y1, 164.5);
-    EXPECT_DOUBLE_EQ(texts[1].y1, 1081);
-    EXPECT_DOUBLE_EQ(texts[2].x1, 1504);
-    EXPECT_DOUBLE_EQ(texts[3].x1, 5499);
+    expectTexts(rig.picture(), {{"Main Deck", 94, 164.5},
+                                {"Lower Deck", kAnywhere, 1081},
+                                {"Forward", 1504, kAnywhere},
+                                {"Aft", 5499, kAnywhere}});
 }
 
 TEST(JetDC8_71F, TheOutlineRunsPastThePictureAndEverythingElseStillDraws)

@@ -1,5 +1,6 @@
 #include "jets/MD90.h"
 
+#include "JetChecks.h"
 #include "JetRig.h"
 
 #include <gtest/gtest.h>
@@ -74,18 +75,11 @@ TEST(JetMD90_30, TheThreeHoldsLieOnTheLowerDeckAndAreDrawnWithTheirLabels)
     EXPECT_EQ(fills[0].x1, 480);
     EXPECT_EQ(fills[0].y1, 104);
 
-    const auto texts = rig.picture().ops(DrawOp::Kind::Text);
-    ASSERT_EQ(texts.size(), 5u);
-    EXPECT_EQ(texts[0].text, "Main Deck");
-    EXPECT_DOUBLE_EQ(texts[0].x1, 90);
-    EXPECT_DOUBLE_EQ(texts[0].y1, 90);
-    EXPECT_EQ(texts[1].text, "Lower Deck");
-    EXPECT_DOUBLE_EQ(texts[1].y1, 1260);
-    const std::pair<const char*, double> labels[] = {{"Forward", 1410}, {"Centre", 5310}, {"Aft", 8130}};
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(texts[2 + i].text, labels[i].first);
-        EXPECT_DOUBLE_EQ(texts[2 + i].x1, labels[i].second);
-    }
+    expectTexts(rig.picture(), {{"Main Deck", 90, 90},
+                                {"Lower Deck", kAnywhere, 1260},
+                                {"Forward", 1410, kAnywhere},
+                                {"Centre", 5310, kAnywhere},
+                                {"Aft", 8130, kAnywhere}});
     // Twelve 1.8 ft seats, 146 of 1.4 ft, six crew circles of 0.7 ft.
     const auto boxes = rig.picture().ops(DrawOp::Kind::Box);
     ASSERT_EQ(boxes.size(), 158u);
