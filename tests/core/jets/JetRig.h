@@ -1,10 +1,7 @@
 #pragma once
 
-#include "ProgramFolder.h"
+#include "FormRig.h"
 #include "jets/Boeing.h"
-#include "platform/Date.h"
-#include "platform/Prompt.h"
-#include "platform/Random.h"
 #include "platform/RecordingCanvas.h"
 
 #include <cctype>
@@ -14,31 +11,21 @@
 
 namespace quillet {
 
-// A program folder with a simulator folder holding the jet types' aircraft.cfg files, the aircraft
-// menu pointing at them, and a session over it all.
-class JetRig {
+// Every jet type in the aircraft menu, each with its aircraft.cfg in a folder named after it
+// ("B737-300" in "b737_300").
+class JetRig : public FormRig {
 public:
-    explicit JetRig(RandomSource* generator = nullptr)
-        : session(prompt, generator ? *generator : random, clock, dir.path())
+    explicit JetRig(RandomSource* generator = nullptr) : FormRig(generator)
     {
-        LoadState& state = session.state;
-        state.simfolder = dir.sim();
-        // Every jet type with data, in a folder named after it ("B737-300" in "b737_300").
         for (const JetType& jet : jetTypes()) {
             const std::string type(jet.type);
             std::string folder = type;
             for (char& c : folder)
                 c = c == '-' ? '_' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-            state.menutype[state.nmenu] = type;
-            state.menufolder[state.nmenu] = folder;
-            ++state.nmenu;
-            dir.makeAircraft(
-                folder, "aircraft.cfg",
+            addAircraft(
+                type, folder,
                 "[fltsim.0]\r\ntitle=Test\r\n\r\n[WEIGHT_AND_BALANCE]\r\nmax_number_of_stations = 0\r\n");
-            dir.write(type + ".gif", "GIF89a");
         }
-        session.currentType = [this] { return currentType; };
-        session.refreshMain = [this] { ++mainRefreshes; };
     }
 
     // The form opened for a type the way "Adjust" opens it.
@@ -58,14 +45,7 @@ public:
         return std::accumulate(weights.begin(), weights.end(), 0.0f);
     }
 
-    ProgramFolder dir;
-    ScriptedPrompt prompt;
-    ScriptedRandom random;
-    FixedClock clock{{2001, 3, 7}};
-    Session session;
-    std::string currentType;
     std::unique_ptr<Boeing> form;
-    int mainRefreshes = 0;
 };
 
 } // namespace quillet
