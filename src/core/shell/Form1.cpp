@@ -11,6 +11,28 @@
 
 namespace quillet {
 
+namespace {
+
+// Why an entry whose aircraft folder is there still cannot be listed. Nothing when the folder itself
+// is missing: that is an entry not set up yet.
+std::optional<std::string> whyNotListed(const std::string& folder, const std::filesystem::path& base)
+{
+    std::error_code ec;
+    const auto found = findPath(folder, base);
+    if (!found)
+        return std::nullopt;
+    if (!std::filesystem::is_directory(*found, ec))
+        return "\"" + folder + "\" is a file, not a folder";
+    const auto cfg = findPath(folder + "\\aircraft.cfg", base);
+    if (!cfg)
+        return "its folder \"" + folder + "\" holds no aircraft.cfg";
+    if (std::filesystem::is_directory(*cfg, ec))
+        return "the aircraft.cfg in \"" + folder + "\" is a folder, not a file";
+    return "the aircraft.cfg in \"" + folder + "\" is not a plain file";
+}
+
+} // namespace
+
 Form1::Form1(Session& session, FormRegistry& forms)
     : m_session(session), m_forms(forms), m_form4(session, *this)
 {
@@ -165,11 +187,15 @@ void Form1::loadini(int& count)
             continue;
         }
         // A flag once set stays set for the run.
-        if (fileExists(state.simfolder + "\\aircraft\\" + state.menufolder[i] + "\\aircraft.cfg",
-                       m_session.programFolder)) {
+        const std::string folder = state.simfolder + "\\aircraft\\" + state.menufolder[i];
+        if (fileExists(folder + "\\aircraft.cfg", m_session.programFolder)) {
             state.menuvalid[i] = true;
             Combo1.addItem(state.menutype[i]);
             Combo1.tooltip = "Select Aircraft Type";
+        } else if (const auto why = whyNotListed(folder, m_session.programFolder)) {
+            m_session.messages.reportOnce("\"" + state.menutype[i] + "\" is not in the aircraft list: " +
+                                          *why + ". Put the aircraft's aircraft.cfg there, or give \"" +
+                                          state.menutype[i] + "\" its folder in the configuration dialog.");
         }
     }
 

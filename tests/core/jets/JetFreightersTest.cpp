@@ -216,5 +216,43 @@ TEST(JetFreighters, SavesOneLinePerStationAsACargoConfiguration)
     }
 }
 
+// Light and Medium load the cargo after the first two containers at a share of its maxima scaled by
+// what the zero-fuel weight leaves for cargo: (maxzerofuel - emptyweight) / the sum of all maxima.
+struct ScaledCargo {
+    const char* type;
+    void (Boeing::*preset)();
+    double share; // a × 0.5 + b of the preset
+    int station;  // the third container
+    double expected;
+};
+
+class JetFreighterPresets : public ::testing::TestWithParam<ScaledCargo> {};
+
+TEST_P(JetFreighterPresets, ScaleTheLaterCargoByTheZeroFuelWeight)
+{
+    const ScaledCargo& c = GetParam();
+    JetRig rig;
+    Boeing& form = rig.open(c.type);
+    pushPresetDraws(rig.random, 0.9, 0.5, rig.session.state.ncargo);
+    (form.*c.preset)();
+    EXPECT_NEAR(rig.session.state.stationweight[c.station], c.expected * c.share, 0.01);
+}
+
+constexpr double kLight = 0.28 * 0.5 + 0.05;
+constexpr double kMedium = 0.33 * 0.5 + 0.33;
+// Each type's station maximum × (maxzerofuel - emptyweight) / sum of its cargo maxima.
+constexpr double kB757F = 8800 * (200000.0 - 112000) / (15 * 8800 + 10300 + 16300);
+constexpr double kDC9 = 4800 * (87000.0 - 56430) / (2200 + 8 * 4800 + 2100 + 7300 + 4300);
+constexpr double kDC8 = 8800 * (234000.0 - 152700) / (17 * 8800 + 5000 + 15000 + 15000);
+
+INSTANTIATE_TEST_SUITE_P(
+    SecondGroup, JetFreighterPresets,
+    ::testing::Values(ScaledCargo{"B757-200F", &Boeing::mnulight_Click, kLight, 4, kB757F},
+                      ScaledCargo{"B757-200F", &Boeing::mnumed_Click, kMedium, 4, kB757F},
+                      ScaledCargo{"DC-9-30F", &Boeing::mnulight_Click, kLight, 5, kDC9},
+                      ScaledCargo{"DC-9-30F", &Boeing::mnumed_Click, kMedium, 5, kDC9},
+                      ScaledCargo{"DC-8-71F", &Boeing::mnulight_Click, kLight, 5, kDC8},
+                      ScaledCargo{"DC-8-71F", &Boeing::mnumed_Click, kMedium, 5, kDC8}));
+
 } // namespace
 } // namespace quillet

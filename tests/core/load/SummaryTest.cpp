@@ -1,9 +1,9 @@
 #include "load/Summary.h"
+
 #include "platform/RecordingCanvas.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
+#include <gtest/gtest.h>
 
 namespace quillet {
 namespace {
@@ -263,6 +263,26 @@ TEST(BalanceIndicator, EveryCallStartsFromAClearPicture)
     const auto& ops = picture4.ops();
     ASSERT_EQ(ops.size(), 8u);
     EXPECT_EQ(ops[4].kind, DrawOp::Kind::Clear);
+}
+
+// A jet loaded on its left side only: the centre of gravity lies 0.55 ft left of the reference point,
+// beyond 2 % of the 12 ft span across but within 2 % of the 120 ft span along.
+TEST(WeightSummary, LoadOnOneSideOnlyIsOutOfBalanceAcross)
+{
+    LoadState state;
+    state.emptyweight = 10000;
+    state.maxtakeoff = state.maxzerofuel = state.maxfuel = 1e6f;
+    state.stationx[0] = 60;
+    state.stationx[1] = -60;
+    state.stationy[2] = -6;
+    state.stationy[3] = 6;
+    state.stationweight[2] = state.loadweight = 1000;
+    TestForm form;
+    summary(form, state, "B737-300");
+    EXPECT_TRUE(form.labels.warning.visible);
+    EXPECT_EQ(form.labels.warning.text, "Warning aircraft out of balance");
+    EXPECT_EQ(dot(form.picture4).colour, kBlue);
+    EXPECT_EQ(dot(form.picture3).colour, kRed);
 }
 
 } // namespace

@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
 namespace quillet {
 namespace {
 
@@ -304,6 +308,56 @@ TEST_F(StartUp, AFolderNameThatIsAPathIsNotListedAndNamedOnce)
     EXPECT_FALSE(dialog.Command1_visible);
     dialog.invalid_dir.setText("b737_300");
     EXPECT_TRUE(dialog.Command1_visible);
+}
+
+TEST_F(StartUp, AFullMenuOfTwentyOneEntriesIsTakenWithoutAWord)
+{
+    std::vector<std::string> entries;
+    for (int i = 0; i < 21; ++i)
+        entries.push_back("T" + std::to_string(i) + ",f" + std::to_string(i));
+    dir.writeIni(dir.sim(), entries);
+    form1.Form_Load();
+    EXPECT_EQ(state.nmenu, 21);
+    EXPECT_EQ(state.menutype[20], "T20");
+    EXPECT_TRUE(session.messages.pending().empty()) << session.messages.pending().front();
+}
+
+// Entries whose folder is missing are simply not set up yet; one whose folder is there but holds no
+// usable aircraft.cfg is named, once a run.
+TEST_F(StartUp, AnEntryWhoseFolderHasNoPlainAircraftCfgIsNamedOnceWithWhy)
+{
+    dir.makeSimulator();
+    dir.makeAircraft("b737_300");
+    dir.write("sim/aircraft/dash8/readme.txt", "");
+    std::filesystem::create_directories(dir.path() / "sim/aircraft/md90/aircraft.cfg");
+    dir.write("sim/aircraft/beech", "a file");
+    std::vector<std::string> entries{"B737-300,b737_300", "DHC-8-300,dash8", "MD-90-30,md90",
+                                     "Beech 1900D,beech", "B727-212ADV,not_yet"};
+#ifndef _WIN32
+    std::filesystem::create_directories(dir.path() / "sim/aircraft/b757");
+    ASSERT_EQ(mkfifo((dir.path() / "sim/aircraft/b757/aircraft.cfg").c_str(), 0600), 0);
+    entries.push_back("B757-200,b757");
+#endif
+    dir.writeIni(dir.sim(), entries);
+    form1.Form_Load();
+    form1.mnuconfigair_Click(); // reads the file again
+    EXPECT_EQ(form1.Combo1.items(), std::vector<std::string>{"B737-300"});
+
+    const auto notListed = [&](const std::string& type, const std::string& why) {
+        return "\"" + type + "\" is not in the aircraft list: " + why +
+               ". Put the aircraft's aircraft.cfg there, or give \"" + type +
+               "\" its folder in the configuration dialog.";
+    };
+    const auto folder = [&](const std::string& name) { return dir.sim() + "\\aircraft\\" + name; };
+    std::vector<std::string> expected{
+        notListed("DHC-8-300", "its folder \"" + folder("dash8") + "\" holds no aircraft.cfg"),
+        notListed("MD-90-30", "the aircraft.cfg in \"" + folder("md90") + "\" is a folder, not a file"),
+        notListed("Beech 1900D", "\"" + folder("beech") + "\" is a file, not a folder")};
+#ifndef _WIN32
+    expected.push_back(
+        notListed("B757-200", "the aircraft.cfg in \"" + folder("b757") + "\" is not a plain file"));
+#endif
+    EXPECT_EQ(told("is not in the aircraft list"), expected);
 }
 
 } // namespace
