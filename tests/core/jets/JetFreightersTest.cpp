@@ -226,6 +226,11 @@ struct ScaledCargo {
     double expected;
 };
 
+void PrintTo(const ScaledCargo& c, std::ostream* out)
+{
+    *out << c.type << (c.preset == &Boeing::mnulight_Click ? " Light" : " Medium");
+}
+
 class JetFreighterPresets : public ::testing::TestWithParam<ScaledCargo> {};
 
 TEST_P(JetFreighterPresets, ScaleTheLaterCargoByTheZeroFuelWeight)
