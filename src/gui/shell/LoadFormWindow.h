@@ -2,7 +2,6 @@
 
 #include <QMainWindow>
 #include <QString>
-
 #include <filesystem>
 
 namespace quillet {
@@ -24,6 +23,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     // Shows the aircraft's photograph in its picture box, loading the file only when it changed.
     void showPhoto(PictureBox* box, const std::filesystem::path& file);
 
