@@ -9,6 +9,7 @@
 #include "jets/Boeing.h"
 #include "jets/JetForms.h"
 #include "platform/MemoryFileSystem.h"
+#include "platform/RecordingCanvas.h"
 #include "regional/CRJ200.h"
 #include "regional/RegionalForm.h"
 #include "regional/RegionalForms.h"
@@ -26,7 +27,7 @@ namespace {
 
 // What users type into a weight box, the odd answers included; nothing stands for "Cancel". No
 // negative weight: a form keeps one out of its total until the station is cleared, as it always has.
-const char* const kAnswers[] = {"170", "189.5", "",   "0",    "1000",   "abc",  "1e3",
+const char* const kAnswers[] = {"170",  "189.5", "",     "0",      "1000", "abc",  "1e3",
                                 "12,5", "99999", " 250", "200 lb", "0.04", nullptr};
 
 std::string cfgOf(std::string_view type)
@@ -35,6 +36,20 @@ std::string cfgOf(std::string_view type)
     text += "max_gross_weight = 1\r\n\r\n[GeneralEngineData]\r\nengine_type = 1\r\n";
     return text;
 }
+
+// The program's recording canvas, except that a clear forgets what it wipes out: a long run would
+// otherwise keep every drawing it ever made.
+class ForgetfulCanvas final : public RecordingCanvas {
+public:
+    using RecordingCanvas::RecordingCanvas;
+
+protected:
+    void doClear() override
+    {
+        forget();
+        RecordingCanvas::doClear();
+    }
+};
 
 void makeFolder(const Files& files, const fs::path& folder)
 {
@@ -65,6 +80,9 @@ FormDriver::FormDriver(const fs::path& folder, Files files, Choices& choices)
     : m_choices(choices), m_prompt(choices), session(m_prompt, m_random, m_clock, folder)
 {
     session.files = files;
+    session.makeCanvas = [](double width, double height) {
+        return std::make_unique<ForgetfulCanvas>(width, height);
+    };
     session.state.simfolder = (folder / "sim").string();
     std::string ini = session.state.simfolder + "\r\n" + std::to_string(kAircraftTypes.size()) + "\r\n";
     int n = 0;
