@@ -16,18 +16,19 @@ namespace {
 
 // Why an entry whose aircraft folder is there still cannot be listed. Nothing when the folder itself
 // is missing: that is an entry not set up yet.
-std::optional<std::string> whyNotListed(const std::string& folder, const std::filesystem::path& base)
+std::optional<std::string> whyNotListed(const std::string& folder, const std::filesystem::path& base,
+                                        const FileSystem& system)
 {
     std::error_code ec;
-    const auto found = findPath(folder, base);
+    const auto found = findPath(folder, base, system);
     if (!found)
         return std::nullopt;
-    if (!std::filesystem::is_directory(*found, ec))
+    if (!system.status(*found, ec).isFolder())
         return "\"" + folder + "\" is a file, not a folder";
-    const auto cfg = findPath(folder + "\\aircraft.cfg", base);
+    const auto cfg = findPath(folder + "\\aircraft.cfg", base, system);
     if (!cfg)
         return "its folder \"" + folder + "\" holds no aircraft.cfg";
-    if (std::filesystem::is_directory(*cfg, ec))
+    if (system.status(*cfg, ec).isFolder())
         return "the aircraft.cfg in \"" + folder + "\" is a folder, not a file";
     return "the aircraft.cfg in \"" + folder + "\" is not a plain file";
 }
@@ -147,7 +148,7 @@ void Form1::loadini(int& count)
     LoadState& state = m_session.state;
     Combo1.clear();
 
-    const auto file = findPath(kSettingsFile, m_session.programFolder);
+    const auto file = findPath(kSettingsFile, m_session.programFolder, m_session.files.system());
     Settings settings;
     if (!file) {
         // A first start: every type waits in the dialog's list of available aircraft, so the dialog
@@ -200,11 +201,11 @@ void Form1::loadini(int& count)
         }
         // A flag once set stays set for the run.
         const std::string folder = state.simfolder + "\\aircraft\\" + state.menufolder[i];
-        if (fileExists(folder + "\\aircraft.cfg", m_session.programFolder)) {
+        if (fileExists(folder + "\\aircraft.cfg", m_session.programFolder, m_session.files.system())) {
             state.menuvalid[i] = true;
             Combo1.addItem(state.menutype[i]);
             Combo1.tooltip = "Select Aircraft Type";
-        } else if (const auto why = whyNotListed(folder, m_session.programFolder)) {
+        } else if (const auto why = whyNotListed(folder, m_session.programFolder, m_session.files.system())) {
             m_session.messages.reportOnce("\"" + state.menutype[i] + "\" is not in the aircraft list: " +
                                           *why + ". Put the aircraft's aircraft.cfg there, or give \"" +
                                           state.menutype[i] + "\" its folder in the configuration dialog.");
@@ -223,7 +224,7 @@ bool Form1::saveini(int count)
     std::vector<MenuEntry> entries;
     for (int i = 0; i < count && i < kMenuCapacity; ++i)
         entries.push_back({state.menutype[i], state.menufolder[i]});
-    const auto path = resolvePath(kSettingsFile, m_session.programFolder);
+    const auto path = resolvePath(kSettingsFile, m_session.programFolder, m_session.files.system());
     const std::string bytes = formatSettings(state.simfolder, entries);
     const auto notSaved = [this](const std::string& why) {
         m_session.messages.report("The settings were not saved: " + why);
@@ -235,7 +236,7 @@ bool Form1::saveini(int count)
     std::string onDisk;
     std::optional<std::string> notKept;
     std::error_code ec;
-    if (std::filesystem::exists(path, ec)) {
+    if (m_session.files.system().status(path, ec).exists()) {
         auto read = m_session.files.read(path, kSettingsMaxBytes);
         if (!read)
             return notSaved(read.error().message + " It was left as it is.");

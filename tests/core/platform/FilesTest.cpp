@@ -1,6 +1,7 @@
 #include "platform/Files.h"
 
 #include "TempDir.h"
+#include "platform/RecordingFileSystem.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -61,8 +62,9 @@ TEST(Files, AFailedWriteKeepsTheOldFileWhole)
 {
     TempDir dir;
     const auto file = dir.write("aircraft.cfg", "the old contents");
-    Files files;
-    files.failWritesAfter(4);
+    RecordingFileSystem disk{systemFiles()};
+    Files files{disk};
+    disk.failWritesAfter(4);
     auto written = files.replace(file, "the new contents, longer");
     ASSERT_FALSE(written);
     EXPECT_EQ(written.error().message,
@@ -77,7 +79,8 @@ TEST(Files, PreparedFilesChangeNothingUntilCommitted)
     TempDir dir;
     const auto first = dir.write("aircraft.cfg", "old 1");
     const auto second = dir.write("station.cfg", "old 2");
-    Files files;
+    RecordingFileSystem disk{systemFiles()};
+    Files files{disk};
     {
         auto a = files.prepare(first, "new 1");
         auto b = files.prepare(second, "new 2");
@@ -90,7 +93,7 @@ TEST(Files, PreparedFilesChangeNothingUntilCommitted)
     EXPECT_EQ(TempDir::readFile(second), "old 2");
     EXPECT_EQ(namesIn(dir.path()), (std::set<std::string>{"aircraft.cfg", "station.cfg"}));
 
-    files.failRenamesAfter(0);
+    disk.failAfter(FileStep::Rename, 0);
     auto c = files.prepare(second, "new 2");
     ASSERT_TRUE(c);
     auto renamed = files.commit(c.value());
@@ -140,6 +143,48 @@ TEST(Files, CopyIfAbsentNeverReplaces)
     dir.write("aircraft.cfg", "second");
     ASSERT_TRUE(Files().copyIfAbsent(from, to));
     EXPECT_EQ(TempDir::readFile(to), "first");
+}
+
+TEST(Files, ALinkIsSavedThroughToItsTarget)
+{
+    TempDir dir;
+    const auto target = dir.write("kept/Beech 1900D.cfg", "old");
+    const auto link = dir.path() / "Beech 1900D.cfg";
+    fs::create_symlink("kept/Beech 1900D.cfg", link);
+    ASSERT_TRUE(Files().replace(link, "new"));
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(TempDir::readFile(target), "new");
+    EXPECT_EQ(namesIn(target.parent_path()), std::set<std::string>{"Beech 1900D.cfg"});
+
+    const auto dangling = dir.path() / "B737-300.cfg";
+    fs::create_symlink("kept/none.cfg", dangling);
+    auto written = Files().replace(dangling, "new");
+    ASSERT_FALSE(written);
+    EXPECT_EQ(written.error().message,
+              "\"" + dangling.string() + "\" is a link to \"kept/none.cfg\", which does not exist.");
+    EXPECT_FALSE(fs::exists(dir.path() / "kept/none.cfg"));
+}
+
+TEST(Files, ASaveRemovesOnlyTheTemporariesItsFileLeftBehind)
+{
+    TempDir dir;
+    const auto file = dir.write("aircraft.cfg", "old");
+    const auto outside = dir.write("outside/keep.txt", "not ours");
+    const std::set<std::string> foreign{
+        ".aircraft.cfg.bak.0123456789abcdef.quillet-new", ".aircraft.cfg.0123.quillet-new",
+        "aircraft.cfg.0123456789abcdef.quillet-new", ".aircraft.cfg.0123456789ABCDEF.quillet-new"};
+    for (const std::string& name : foreign)
+        dir.write(name, "x");
+    dir.write(".aircraft.cfg.00000000deadbeef.quillet-new", "left by a killed save");
+    fs::create_symlink(outside, dir.path() / ".aircraft.cfg.0123456789abcdef.quillet-new");
+    fs::create_directory(dir.path() / ".aircraft.cfg.fedcba9876543210.quillet-new");
+
+    ASSERT_TRUE(Files().replace(file, "new"));
+    std::set<std::string> expected = foreign;
+    expected.insert({"aircraft.cfg", "outside", ".aircraft.cfg.0123456789abcdef.quillet-new",
+                     ".aircraft.cfg.fedcba9876543210.quillet-new"});
+    EXPECT_EQ(namesIn(dir.path()), expected);
+    EXPECT_EQ(TempDir::readFile(outside), "not ours");
 }
 
 } // namespace
