@@ -372,8 +372,8 @@ std::vector<bool> chooseSeats(const LoadState& state, const SeatOrder& order, in
                   sumY[static_cast<std::size_t>(k + count)] - sumY[static_cast<std::size_t>(k)]);
         const int splitRows = !boundary(k, order.rowStart) + !boundary(k + count, order.rowStart);
         const int splitPairs = !boundary(k, order.pairStart) + !boundary(k + count, order.pairStart);
-        const Score score{fit.outside > 0, steps(fit.errorX), steps(fit.cgY), splitPairs, splitRows,
-                          std::abs(2 * k + count - n)};
+        const Score score{fit.outside > 0, steps(fit.errorX), steps(fit.cgY),
+                          splitPairs,      splitRows,         std::abs(2 * k + count - n)};
         if (k == 0 || score < best) {
             best = score;
             bestStart = k;

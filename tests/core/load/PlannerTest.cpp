@@ -3,18 +3,18 @@
 // search below is the tests' own: seats taken as blocks of the most forward to the most aft, the
 // cargo mixed between a forward and an aft fill of its own.
 
+#include "load/Planner.h"
+
 #include "FormRig.h"
 #include "freighter/FreighterForms.h"
 #include "jets/JetForms.h"
-#include "load/Planner.h"
 #include "regional/RegionalForms.h"
 #include "shell/AircraftTypes.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cctype>
 #include <cmath>
+#include <gtest/gtest.h>
 #include <numeric>
 #include <optional>
 #include <string>
@@ -61,11 +61,13 @@ std::vector<int> stationsOf(const StationGroups& groups, StationRole role)
 // fill from the tail, each station to its limit and each group to its own.
 class Witness {
 public:
-    Witness(const LoadState& state, const StationGroups& groups, int passengers, float perPassenger, double cargo)
+    Witness(const LoadState& state, const StationGroups& groups, int passengers, float perPassenger,
+            double cargo)
     {
         std::vector<int> seats = stationsOf(groups, StationRole::Passenger);
         std::sort(seats.begin(), seats.end(), [&](int a, int b) {
-            return std::pair(state.stationx[a], state.stationy[a]) > std::pair(state.stationx[b], state.stationy[b]);
+            return std::pair(state.stationx[a], state.stationy[a]) >
+                   std::pair(state.stationx[b], state.stationy[b]);
         });
         std::array<bool, kStationCapacity> planned{};
         for (const StationGroup& group : groups) {
@@ -95,8 +97,8 @@ public:
                 groupRoom.push_back(group.limit > 0 ? group.limit : 1e12);
                 for (int station : group.stations) {
                     if (group.role == StationRole::Cargo) {
-                        cargoStations.emplace_back(fromNose ? -state.stationx[station] : state.stationx[station],
-                                                   station);
+                        cargoStations.emplace_back(
+                            fromNose ? -state.stationx[station] : state.stationx[station], station);
                         groupOf[station] = static_cast<int>(groupRoom.size()) - 1;
                     }
                 }
@@ -108,7 +110,8 @@ public:
             for (const auto& [key, station] : cargoStations) {
                 double& room = groupRoom[static_cast<std::size_t>(groupOf[station])];
                 const bool ownLimit = groups[static_cast<std::size_t>(groupOf[station])].stationLimits;
-                const double put = std::min({left, room, ownLimit ? double(state.stationmax[station]) : 1e12});
+                const double put =
+                    std::min({left, room, ownLimit ? double(state.stationmax[station]) : 1e12});
                 left -= put;
                 room -= put;
                 moment.first += put * state.stationx[station];
@@ -171,7 +174,8 @@ void expectMeets(TypeRig& rig, const Plan& plan, int passengers, double cargo, c
     rig.form->applyPlan(plan);
     for (int station : stationsOf(rig.groups, StationRole::Crew))
         EXPECT_EQ(state.stationweight[station], crewBefore[station]);
-    EXPECT_EQ(state.loadweight, std::accumulate(state.stationweight.begin(), state.stationweight.end(), 0.0f));
+    EXPECT_EQ(state.loadweight,
+              std::accumulate(state.stationweight.begin(), state.stationweight.end(), 0.0f));
     EXPECT_LE(state.emptyweight + state.loadweight, state.maxzerofuel);
     // The forms' own checks mark any station above its maximum or in a zone above its limit.
     for (int i = 0; i < state.stationsInUse(); ++i)
@@ -181,7 +185,8 @@ void expectMeets(TypeRig& rig, const Plan& plan, int passengers, double cargo, c
         for (int station : group.stations) {
             sum += state.stationweight[station];
             if (group.stationLimits && group.role == StationRole::Cargo)
-                EXPECT_LE(state.stationweight[station], state.stationmax[station]) << state.stationname[station];
+                EXPECT_LE(state.stationweight[station], state.stationmax[station])
+                    << state.stationname[station];
         }
         if (group.limit > 0)
             EXPECT_LE(sum, group.limit) << group.name;
@@ -223,8 +228,8 @@ TEST_P(PlanOnEveryType, MeetsTheRequestWithinEveryLimitAndBalancesWhenAnyArrange
     std::vector<PlanRequest> requests;
     for (int p = 0; p <= 10; ++p) {
         const int passengers = bounds.seats * p / 10;
-        const double room = std::min<double>(bounds.maxCargo, std::floor(bounds.maxZeroFuel - bounds.fixedWeight -
-                                                                         170.0 * passengers));
+        const double room = std::min<double>(
+            bounds.maxCargo, std::floor(bounds.maxZeroFuel - bounds.fixedWeight - 170.0 * passengers));
         for (int c = 0; c <= 10 && room >= 0; ++c) {
             PlanRequest request;
             request.passengers = passengers;
@@ -239,9 +244,10 @@ TEST_P(PlanOnEveryType, MeetsTheRequestWithinEveryLimitAndBalancesWhenAnyArrange
 
     int balanced = 0;
     for (const PlanRequest& request : requests) {
-        const std::string what = std::to_string(request.passengers) + " passengers, " +
-                                 (request.cargo ? "cargo " + std::to_string(*request.cargo)
-                                                : "zero-fuel weight " + std::to_string(*request.zeroFuelWeight));
+        const std::string what =
+            std::to_string(request.passengers) + " passengers, " +
+            (request.cargo ? "cargo " + std::to_string(*request.cargo)
+                           : "zero-fuel weight " + std::to_string(*request.zeroFuelWeight));
         const Result<Plan> plan = planLoad(rig.state(), rig.groups, request);
         if (!plan) {
             // Only a zero-fuel weight the passengers alone exceed, or one the holds cannot reach.
