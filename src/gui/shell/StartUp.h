@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QStringList>
-
 #include <filesystem>
 #include <functional>
 #include <optional>
