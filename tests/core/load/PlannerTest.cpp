@@ -15,6 +15,7 @@
 #include <cctype>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <map>
 #include <numeric>
 #include <optional>
 #include <string>
@@ -303,6 +304,40 @@ INSTANTIATE_TEST_SUITE_P(Types, FullCabinTest,
                                            FullCabin{"B727-212ADV", true, 5000, true},
                                            FullCabin{"B757-200", true, 20000, true},
                                            FullCabin{"B767-300ER", true, 20000, true}));
+
+// Passengers sit as people board: whole rows together, pairs either side of the aisle, so that at
+// most the two rows at the ends of the block are part filled and the sides carry the same count.
+TEST(PlanSeating, FillsRowsTogetherAndPairsAcrossTheAisle)
+{
+    TypeRig rig{"B737-300"};
+    const LoadState& state = rig.state();
+    for (int passengers : {24, 60, 97}) {
+        PlanRequest request;
+        request.passengers = passengers;
+        request.cargo = 3000;
+        const Result<Plan> plan = planLoad(state, rig.groups, request);
+        ASSERT_TRUE(plan) << plan.error().message;
+        EXPECT_TRUE(plan->cg.inBalance);
+        std::map<float, std::pair<int, int>> rows; // x: seats taken, seats
+        int left = 0;
+        int right = 0;
+        for (const auto& [station, weight] : plan->weights) {
+            if (station >= state.nstations - state.ncrew)
+                continue;
+            auto& [taken, seats] = rows[state.stationx[station]];
+            ++seats;
+            if (weight > 0) {
+                ++taken;
+                (state.stationy[station] < 0 ? left : right) += 1;
+            }
+        }
+        const auto partial = std::count_if(rows.begin(), rows.end(), [](const auto& row) {
+            return row.second.first > 0 && row.second.first < row.second.second;
+        });
+        EXPECT_LE(partial, 2) << passengers;
+        EXPECT_LE(std::abs(left - right), 1) << passengers;
+    }
+}
 
 // A request no load can meet is refused with the limit it breaks and by how much.
 struct Refusal {
