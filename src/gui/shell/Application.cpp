@@ -6,10 +6,10 @@
 #include "TextWindow.h"
 #include "freighter/FreighterForms.h"
 #include "freighter/FreighterWindow.h"
-#include "jets/JetForms.h"
-#include "jets/JetWindow.h"
 #include "platform/QtCanvas.h"
 #include "platform/QtPrompt.h"
+#include "jets/JetForms.h"
+#include "jets/JetWindow.h"
 #include "platform/Twips.h"
 #include "regional/RegionalForms.h"
 #include "regional/RegionalWindows.h"
@@ -29,9 +29,7 @@ Application::Application(std::filesystem::path programFolder, Prompt* prompt)
         prompt = m_ownPrompt.get();
     }
     m_session = std::make_unique<Session>(*prompt, m_random, m_clock, std::move(programFolder));
-    m_session->makeCanvas = [](double width, double height) {
-        return std::make_unique<QtCanvas>(width, height);
-    };
+    m_session->makeCanvas = [](double width, double height) { return std::make_unique<QtCanvas>(width, height); };
     m_form1 = std::make_unique<Form1>(*m_session, m_forms);
     registerRegionalForms(m_forms);
     registerRegionalWindows(*this);
@@ -42,18 +40,15 @@ Application::Application(std::filesystem::path programFolder, Prompt* prompt)
 
     showMessage = [this](const std::string& text) {
         QWidget* parent = QApplication::activeWindow();
-        QMessageBox::warning(parent ? parent : m_main.get(), QStringLiteral("Quillet"),
-                             QString::fromStdString(text));
+        QMessageBox::warning(parent ? parent : m_main.get(), QStringLiteral("Quillet"), QString::fromStdString(text));
     };
 
     m_main = std::make_unique<MainWindow>(*this);
     m_config = new ConfigDialog(*this, m_main.get());
-    m_about =
-        new TextWindow(QString::fromLatin1(kVersionCaption), QString::fromLatin1(kVersionText), m_main.get());
+    m_about = new TextWindow(QString::fromLatin1(kVersionCaption), QString::fromLatin1(kVersionText), m_main.get());
     m_about->setObjectName(QStringLiteral("About"));
     m_about->onClosed = [this] { m_form1->aboutVisible = false; };
-    m_terms =
-        new TextWindow(QString::fromLatin1(kTermsCaption), QString::fromLatin1(kTermsText), m_main.get());
+    m_terms = new TextWindow(QString::fromLatin1(kTermsCaption), QString::fromLatin1(kTermsText), m_main.get());
     m_terms->setObjectName(QStringLiteral("Form2"));
     m_terms->onClosed = [this] { m_form1->form2Visible = false; };
 }

@@ -50,10 +50,7 @@ public:
     MainWindow* mainWindow() const { return m_main.get(); }
     ConfigDialog* configDialog() const { return m_config; }
     // Makes the window of a load form the first time the form is shown.
-    void addWindow(std::string formName, WindowMaker maker)
-    {
-        m_windowMakers[std::move(formName)] = std::move(maker);
-    }
+    void addWindow(std::string formName, WindowMaker maker) { m_windowMakers[std::move(formName)] = std::move(maker); }
     // The window of a load form by its name ("Beech"), once it has been shown.
     LoadFormWindow* window(const std::string& formName) const;
 

@@ -18,8 +18,8 @@ namespace {
 
 enum class LabelFont { Form, Arial };
 
-QLabel* makeLabel(QWidget* parent, const char* name, const char* text, LabelFont font, double l, double t,
-                  double w, double h)
+QLabel* makeLabel(QWidget* parent, const char* name, const char* text, LabelFont font, double l, double t, double w,
+                  double h)
 {
     auto* label = new QLabel(QString::fromLatin1(text), parent);
     label->setObjectName(QString::fromLatin1(name));
@@ -46,8 +46,8 @@ ConfigDialog::ConfigDialog(Application& app, QWidget* parent)
     QLabel* active = makeLabel(this, "Label1", "Active Aircraft", LabelFont::Arial, 120, 0, 1695, 255);
     makeLabel(this, "Label2", "Directory", LabelFont::Arial, 2640, 0, 1935, 375);
     QLabel* available = makeLabel(this, "Label4", "Avaliable Aircraft", LabelFont::Arial, 0, 720, 1695, 255);
-    QLabel* simulator = makeLabel(this, "Label3", "Current Directory of Flight Simulator", LabelFont::Form,
-                                  240, 1560, 4095, 255);
+    QLabel* simulator =
+        makeLabel(this, "Label3", "Current Directory of Flight Simulator", LabelFont::Form, 240, 1560, 4095, 255);
 
     m_combo1 = new QComboBox(this);
     m_combo1->setObjectName(QStringLiteral("Combo1"));
@@ -81,8 +81,7 @@ ConfigDialog::ConfigDialog(Application& app, QWidget* parent)
     place(m_add, 4560, 1080, 495, 255);
     // Return in a text box must not press "Add", as a dialog's buttons otherwise would.
     m_add->setAutoDefault(false);
-    connect(m_add, &QPushButton::clicked, this,
-            [this] { m_app.handle([this] { m_form.Command1_Click(); }); });
+    connect(m_add, &QPushButton::clicked, this, [this] { m_app.handle([this] { m_form.Command1_Click(); }); });
 
     m_simdir = new QLineEdit(this);
     m_simdir->setObjectName(QStringLiteral("simdir"));
