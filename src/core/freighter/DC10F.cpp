@@ -64,13 +64,14 @@ struct Zone {
     int first;
     int last;
     double limit; // lb
+    const char* name;
 };
 constexpr Zone kZones[] = {
-    {0, 9, 50000},   // main deck 1L to 5R
-    {10, 15, 60000}, // main deck 6L to 8R
-    {16, 22, 38000}, // main deck 9L to 11R and 12
-    {23, 27, 40000}, // forward lower hold A to E
-    {28, 37, 35000}, // aft lower hold C1L to C5R
+    {0, 9, 50000, "Main deck zone 1"},     // 1L to 5R
+    {10, 15, 60000, "Main deck zone 2"},   // 6L to 8R
+    {16, 22, 38000, "Main deck zone 3"},   // 9L to 11R and 12
+    {23, 27, 40000, "Forward lower hold"}, // A to E
+    {28, 37, 35000, "Aft lower hold"},     // C1L to C5R
 };
 
 // The centre positions 6L to 8R take the heaviest loads of a preset. Container 9L is left out of the
@@ -240,9 +241,29 @@ void DC10F::Picture1_MouseDown(int Button, int, double X, double Y)
             state.stationweight[i] = 0;
         }
     }
+    afterLoadChange();
+}
+
+void DC10F::afterLoadChange()
+{
     runSummary();
     cargocheck();
     redraw();
+}
+
+StationGroups DC10F::stationGroups() const
+{
+    const LoadState& state = m_session.state;
+    const int end = clampedTo(state.stationsInUse(), kStationCapacity);
+    StationGroups groups;
+    groups.push_back({"Crew", StationRole::Crew, stationRange(std::min(kFirstCrew, end), end)});
+    for (const Zone& zone : kZones) {
+        groups.push_back({zone.name, StationRole::Cargo,
+                          stationRange(zone.first, std::min(zone.last + 1, end)),
+                          static_cast<float>(zone.limit), true});
+    }
+    std::erase_if(groups, [](const StationGroup& group) { return group.stations.empty(); });
+    return groups;
 }
 
 void DC10F::Picture1_MouseMove(int, int, double X, double Y)

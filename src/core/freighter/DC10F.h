@@ -49,6 +49,11 @@ public:
     void nopass() override;
     void cargocheck();
 
+    StationGroups stationGroups() const override;
+
+protected:
+    void afterLoadChange() override;
+
 private:
     void setUpStations();
     // Whether a point of the picture lies in a station's hit square.

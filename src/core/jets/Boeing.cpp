@@ -94,6 +94,39 @@ void Boeing::mnuempty_Click()
     afterLoadChange();
 }
 
+StationGroups Boeing::stationGroups() const
+{
+    const LoadState& state = m_session.state;
+    const int persons = personCount();
+    const int crewFirst = std::clamp(persons - state.ncrew, 0, persons);
+    StationGroups groups;
+    groups.push_back({"Crew", StationRole::Crew, stationRange(crewFirst, persons)});
+    addCabinClasses(groups, state, stationRange(0, crewFirst));
+
+    const int end = cargoEnd();
+    if (type() == kZonedType) {
+        const int firstAft = std::clamp(kZonedFirstAft, persons, end);
+        groups.push_back({"Forward lower hold", StationRole::Cargo, stationRange(persons, firstAft),
+                          kForwardZoneLimit, true});
+        groups.push_back({"Aft lower hold and bulk", StationRole::Cargo, stationRange(firstAft, end),
+                          kAftZoneLimit, true});
+    } else {
+        StationGroup mainDeck{"Main deck", StationRole::Cargo, {}, 0, true};
+        for (int i = persons; i < end; ++i) {
+            if (!isLowerCargo(i))
+                mainDeck.stations.push_back(i);
+        }
+        if (!mainDeck.stations.empty())
+            groups.push_back(std::move(mainDeck));
+        for (int i = persons; i < end; ++i) {
+            if (isLowerCargo(i))
+                groups.push_back({state.stationname[i], StationRole::Cargo, {i}, 0, true});
+        }
+    }
+    std::erase_if(groups, [](const StationGroup& group) { return group.stations.empty(); });
+    return groups;
+}
+
 void Boeing::afterLoadChange()
 {
     m_session.state.loadweight = m_session.state.sumOfWeights();

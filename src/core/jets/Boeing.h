@@ -52,6 +52,11 @@ public:
     void nopass() override;
     void cargocheck();
 
+    StationGroups stationGroups() const override;
+
+protected:
+    void afterLoadChange() override;
+
 private:
     struct PresetFactors {
         double a;
@@ -65,7 +70,6 @@ private:
     bool isLowerCargo(int station) const;
     void placeStations();
     void fillPass();
-    void afterLoadChange();
     void preset(Seating seating, PresetFactors factors);
     int drawSeat(int seats, bool wantOccupied);
 

@@ -1,5 +1,6 @@
 #include "Summary.h"
 
+#include "Balance.h"
 #include "platform/Format.h"
 
 #include <algorithm>
@@ -66,39 +67,15 @@ void summary(SummaryForm& form, LoadState& state, std::string_view type)
     labels.lblmaxtow.text = "Max takeoff weight  " + format0(state.maxtakeoff) + " lb.";
     labels.lblmaxfuel.text = "Fuel capacity  " + format0(state.maxfuel) + " lb.";
 
-    // Balance over every marker entry, not only the type's stations: the empty aircraft counts with
-    // its weight at the reference point, and 0.01 lb keeps the division defined. The extremes start
-    // at 0, so the span always includes the reference point.
-    double sx = 0;
-    double sy = 0;
-    double weight = state.emptyweight + 0.01;
-    double maxX = 0;
-    double minX = 0;
-    double maxY = 0;
-    double minY = 0;
-    for (int i = 0; i < kMarkerCapacity; ++i) {
-        const double x = state.stationx[i];
-        const double y = state.stationy[i];
-        const double w = state.stationweight[i];
-        sx += x * w;
-        sy += y * w;
-        weight += w;
-        maxX = std::max(maxX, x);
-        minX = std::min(minX, x);
-        maxY = std::max(maxY, y);
-        minY = std::min(minY, y);
-    }
-    const double cgX = sx / weight;
-    const double cgY = sy / weight;
-
-    constexpr double tolerance = 0.02;
-    if (std::fabs(cgX) > tolerance * (maxX - minX) || std::fabs(cgY) > tolerance * (maxY - minY)) {
+    const CentreOfGravity cg = centreOfGravity(state);
+    if (!cg.inBalance) {
         labels.warning.text = "Warning aircraft out of balance";
         labels.warning.visible = true;
         labels.warning.foreColor = kRed;
     }
 
-    balance(maxX, minX, maxY, minY, cgX, cgY, tolerance, form.Picture4(), form.Picture3());
+    balance(cg.maxX, cg.minX, cg.maxY, cg.minY, cg.x, cg.y, kBalanceTolerance, form.Picture4(),
+            form.Picture3());
 }
 
 namespace {

@@ -95,8 +95,34 @@ void RegionalLoadForm::applyPreset(const Preset& preset)
     RegionalPresetRun(m_session.state, m_session.random, m_type.roles, stationCount(),
                       m_type.presets.avionicsLoad)
         .run(preset);
+    afterLoadChange();
+}
+
+void RegionalLoadForm::afterLoadChange()
+{
     showPresetLoad();
     runSummary();
+}
+
+StationGroups RegionalLoadForm::stationGroups() const
+{
+    const StationRoles& roles = m_type.roles;
+    const int end =
+        std::clamp(std::min(stationCount(), m_session.state.stationsInUse()), 0, kStationCapacity);
+    const auto inUse = [end](std::vector<int> stations) {
+        std::erase_if(stations, [end](int station) { return station < 0 || station >= end; });
+        return stations;
+    };
+    StationGroups groups;
+    groups.push_back({"Crew", StationRole::Crew, inUse({roles.crew.begin(), roles.crew.end()})});
+    addCabinClasses(groups, m_session.state,
+                    inUse(stationRange(roles.firstPassenger, roles.lastPassenger + 1)));
+    // Neither the bay nor the hold has a limit of its own: the zero-fuel weight bounds them.
+    if (roles.avionics >= 0)
+        groups.push_back({"Avionics bay", StationRole::Cargo, inUse({roles.avionics})});
+    groups.push_back({"Cargo hold", StationRole::Cargo, inUse({roles.hold})});
+    std::erase_if(groups, [](const StationGroup& group) { return group.stations.empty(); });
+    return groups;
 }
 
 } // namespace quillet

@@ -47,12 +47,16 @@ public:
     // Counts the loaded passenger seats into npax.
     void nopass() override;
 
+    StationGroups stationGroups() const override;
+
 protected:
     int stationCount() const { return static_cast<int>(m_type.stations.size()); }
     // Loads the photograph and writes the type's limits, counts and stations into the load state.
     void setUpType();
     // Shows the load a preset has left, before the summary runs.
     virtual void showPresetLoad() { redraw(); }
+    // Shows a load set on many stations at once and runs the summary.
+    void afterLoadChange() override;
 
 private:
     template <class Preset>

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "load/Planner.h"
 #include "load/Session.h"
+#include "load/StationGroups.h"
 #include "load/Summary.h"
 
 #include <string>
@@ -25,9 +27,19 @@ public:
 
     void runSummary() { summary(*this, m_session.state, m_session.currentType()); }
 
+    // The crew, the passenger seats and the holds of the type that is set up; none on a form whose
+    // load cannot be planned.
+    virtual StationGroups stationGroups() const { return {}; }
+    // Puts a planned load on the stations in one step, then checks, redraws and sums up as a click
+    // does.
+    void applyPlan(const Plan& plan);
+
     bool visible = false;
 
 protected:
+    // What the form runs after its load changed: its checks, its drawing and the summary.
+    virtual void afterLoadChange() { runSummary(); }
+
     Session& m_session;
 };
 

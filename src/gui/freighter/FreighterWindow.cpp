@@ -57,6 +57,7 @@ void FreighterWindow::buildMenus()
     item(presets, dc10f::kMnulight, &DC10F::mnulight_Click);
     item(presets, dc10f::kMnumed, &DC10F::mnumed_Click);
     item(presets, dc10f::kMnuheav, &DC10F::mnuheav_Click);
+    addTargetItem(presets);
 }
 
 void FreighterWindow::sync()

@@ -59,6 +59,7 @@ void JetWindow::buildMenus()
     item(presets, boeing::kMnulight, &Boeing::mnulight_Click);
     item(presets, boeing::kMnumed, &Boeing::mnumed_Click);
     item(presets, boeing::kMnuheav, &Boeing::mnuheav_Click);
+    addTargetItem(presets);
 }
 
 void JetWindow::sync()

@@ -53,6 +53,7 @@ void RegionalLoadWindow::buildMenus()
     item(presets, menus.mnulight, &RegionalLoadForm::mnulight_Click);
     item(presets, menus.mnumed, &RegionalLoadForm::mnumed_Click);
     item(presets, menus.mnuheav, &RegionalLoadForm::mnuheav_Click);
+    addTargetItem(presets);
 }
 
 void RegionalLoadWindow::sync()

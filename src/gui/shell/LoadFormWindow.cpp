@@ -1,11 +1,14 @@
 #include "LoadFormWindow.h"
 
 #include "Application.h"
+#include "TargetDialog.h"
 #include "platform/PictureBox.h"
 #include "platform/Widgets.h"
 #include "shell/LoadForm.h"
 
+#include <QAction>
 #include <QCloseEvent>
+#include <QMenu>
 
 namespace quillet {
 
@@ -32,6 +35,27 @@ void LoadFormWindow::showPhoto(PictureBox* box, const std::filesystem::path& fil
         return;
     m_shownPhoto = shown;
     box->setPicture(loadPicture(file, m_app.session().messages));
+}
+
+void LoadFormWindow::addTargetItem(QMenu* presets)
+{
+    presets->addSeparator()->setObjectName(QStringLiteral("mnutargetline"));
+    QAction* action = presets->addAction(QStringLiteral("Load to &Target..."));
+    action->setObjectName(QStringLiteral("mnutarget"));
+    action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
+    connect(action, &QAction::triggered, this, &LoadFormWindow::loadToTarget);
+}
+
+void LoadFormWindow::loadToTarget()
+{
+    // Window-modal and not blocking: the rest of the program keeps running its events meanwhile.
+    auto* dialog = new TargetDialog(m_app.session().state, m_form.stationGroups(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        if (const std::optional<Plan>& plan = dialog->plan())
+            m_app.handle([this, applied = *plan] { m_form.applyPlan(applied); });
+    });
+    dialog->open();
 }
 
 } // namespace quillet

@@ -4,6 +4,8 @@
 #include <QString>
 #include <filesystem>
 
+class QMenu;
+
 namespace quillet {
 
 class Application;
@@ -26,6 +28,11 @@ protected:
     void showEvent(QShowEvent* event) override;
     // Shows the aircraft's photograph in its picture box, loading the file only when it changed.
     void showPhoto(PictureBox* box, const std::filesystem::path& file);
+    // Ends a preset menu with a separator and "Load to Target..." (Ctrl+T), which opens the target
+    // dialog and applies its plan to the form.
+    void addTargetItem(QMenu* presets);
+    // Opens the target dialog and, on OK, applies the plan.
+    void loadToTarget();
 
     LoadForm& m_form;
     Application& m_app;

@@ -69,7 +69,8 @@ TEST_F(FreighterWindowGui, OpensWithItsControlsAndLoadsAContainerWithTheMouse)
     }
     EXPECT_EQ(
         menus.join('|'),
-        "&File|&Re-load Configuration|&Save Configuration|&Auto Load|&Light Load|&Medium Load|&Heavy Load");
+        "&File|&Re-load Configuration|&Save Configuration|&Auto Load|&Light Load|&Medium Load|&Heavy Load||"
+        "Load to &Target...");
 
     // Container 1L is hit at (2329, 468) twips, pixel (155, 31); its box spans pixels 141 to 177
     // across and 17 to 45 down.

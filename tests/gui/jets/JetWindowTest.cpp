@@ -58,7 +58,7 @@ TEST_F(JetWindowGui, OpensOnTheB737AndLoadsASeatWithTheMouse)
     }
     EXPECT_EQ(menus.join('|'),
               "&File|&Re-load Configuration|&Save configuration|&Auto Load|&Empty Aircraft|-|"
-              "&Light Load|&Medium Load|&Heavy Load");
+              "&Light Load|&Medium Load|&Heavy Load|-|Load to &Target...");
 
     // Seat 1A is drawn at (3045, 854) twips: pixel (203, 56.9) of the picture.
     prompt.answer("170");
