@@ -80,6 +80,13 @@ Result<AircraftLines> bufferAircraftFile(std::string_view bytes, int capacity)
             why += " for a file without a [WEIGHT_AND_BALANCE] section (two lines are added for it)";
         return Error{why};
     }
+    // An aircraft.cfg without a single setting is a file cut short or never filled, not an aircraft;
+    // a section written into it would still leave the simulator nothing to fly.
+    if (bytes.find_first_not_of(" \t\r\n") == std::string_view::npos) {
+        return Error{std::string(bytes.empty() ? "is empty (0 bytes)" : "holds nothing but blank lines") +
+                     ", so it describes no aircraft; put the aircraft's own aircraft.cfg back (an "
+                     "aircraft.cfg.bak beside it holds the file as Quillet first found it)"};
+    }
     if (!hasSection) {
         out.lines.emplace_back();
         out.lines.emplace_back("[WEIGHT_AND_BALANCE]");

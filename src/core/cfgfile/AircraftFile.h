@@ -28,8 +28,8 @@ bool isSectionHeader(std::string_view line);
 int measureSection(std::span<const std::string> lines);
 
 // The buffer for an aircraft.cfg's bytes. A file without the section gets an empty line and the
-// header appended, so that the writer has a place for its block. Refused when the bytes are not text
-// or the result would not fit the buffer's lines; the error reads as a predicate of the file
+// header appended, so that the writer has a place for its block. Refused when the bytes are not text,
+// hold nothing but blanks, or would not fit the buffer's lines; the error reads as a predicate of the file
 // ("has 302 lines, ...").
 Result<AircraftLines> bufferAircraftFile(std::string_view bytes, int capacity);
 

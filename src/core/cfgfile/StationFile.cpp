@@ -26,11 +26,17 @@ public:
         return ok() && value ? static_cast<float>(*value) : 0;
     }
 
-    float weight(const std::string& what)
+    // A station can hold no more than the whole aircraft may weigh at take-off: anything above is a
+    // typing slip, and would go into aircraft.cfg as a number the simulator cannot fly.
+    float weight(const std::string& what, float maxtakeoff)
     {
         const float value = number(what);
         if (value < 0)
             fail(m_last.line, what + " is negative: \"" + m_last.text + "\"");
+        else if (value > maxtakeoff)
+            fail(m_last.line, what + " is \"" + m_last.text +
+                                  "\" lb, more than the maximum take-off weight of " +
+                                  shortestNumber(maxtakeoff) + " lb");
         return value;
     }
 
@@ -52,6 +58,10 @@ public:
         // balance section the next time the file is read.
         if (!field->quoted)
             fail(field->line, what + " should be a text in double quotes but is " + field->text);
+        else if (field->textAfterQuote)
+            fail(field->line, what + " \"" + field->text +
+                                  "\" is followed by more text after its closing double quote; a double "
+                                  "quote inside a label is written as two (\"\")");
         else if (field->text.find_first_of("\r\n") != std::string::npos)
             fail(field->line, what + " has no closing double quote on its line");
         else if (field->text.find('[') != std::string::npos)
@@ -162,7 +172,7 @@ Result<LoadState> withStationFile(std::string_view text, LoadState state)
         state.stationx[i] = in.number("the x position of " + which);
         state.stationy[i] = in.number("the y position of " + which);
         state.stationz[i] = in.number("the z position of " + which);
-        state.stationweight[i] = in.weight("the weight of " + which);
+        state.stationweight[i] = in.weight("the weight of " + which, state.maxtakeoff);
     }
     in.expectEnd();
     if (!in.ok())

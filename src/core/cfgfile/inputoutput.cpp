@@ -179,6 +179,14 @@ Status writeFiles(Session& session)
                      std::to_string(kMaxFileBytes) + " this program can read back."};
     }
 
+    // Nor is a station file the reader would refuse (a weight typed below 0 or above the take-off
+    // weight): it would lock the user out of the type's load the same way.
+    if (auto back = withStationFile(stationFileText(state), state); !back) {
+        return Error{"Nothing was saved: the station file " + quoted(stationFile(session, type)) +
+                     " would not read back: " + back.error().message +
+                     ". Change that station's load, then save again."};
+    }
+
     // Both files are written out before either replaces its old one, so that a save does not stop
     // half-way for a reason that could be known beforehand.
     auto newCfg = session.files.prepare(cfgPath, text);

@@ -16,7 +16,8 @@ Status readcfg(Session& session);
 
 // Rewrites the aircraft's aircraft.cfg with a new weight and balance section (every other line kept
 // byte for byte), then the type's station file. Refuses, and tells the user, when the buffer was not
-// read for this aircraft.
+// read for this aircraft or the station file would not read back (a weight below 0 or above the
+// take-off weight).
 Status writecfg(Session& session);
 
 } // namespace quillet

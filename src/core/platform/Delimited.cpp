@@ -48,17 +48,26 @@ std::optional<DelimitedReader::Field> DelimitedReader::next()
     if (m_pos < m_text.size() && m_text[m_pos] == '"') {
         field.quoted = true;
         ++m_pos;
-        while (m_pos < m_text.size() && m_text[m_pos] != '"') {
-            if (m_text[m_pos] == '\n' ||
-                (m_text[m_pos] == '\r' && (m_pos + 1 >= m_text.size() || m_text[m_pos + 1] != '\n')))
+        for (; m_pos < m_text.size(); ++m_pos) {
+            if (m_text[m_pos] == '"') {
+                // A doubled quote stands for one; a single one closes the field.
+                if (m_pos + 1 >= m_text.size() || m_text[m_pos + 1] != '"')
+                    break;
+                ++m_pos;
+            } else if (m_text[m_pos] == '\n' ||
+                       (m_text[m_pos] == '\r' && (m_pos + 1 >= m_text.size() || m_text[m_pos + 1] != '\n'))) {
                 ++m_line;
-            field.text += m_text[m_pos++];
+            }
+            field.text += m_text[m_pos];
         }
         if (m_pos < m_text.size())
             ++m_pos; // closing quote
-        // Anything between the closing quote and the delimiter is dropped.
-        while (m_pos < m_text.size() && m_text[m_pos] != ',' && !atLineEnd())
+        // Anything between the closing quote and the delimiter is dropped; the caller may refuse it.
+        skipBlanks();
+        while (m_pos < m_text.size() && m_text[m_pos] != ',' && !atLineEnd()) {
+            field.textAfterQuote = true;
             ++m_pos;
+        }
     } else {
         while (m_pos < m_text.size() && m_text[m_pos] != ',' && !atLineEnd())
             field.text += m_text[m_pos++];
@@ -79,7 +88,14 @@ std::optional<DelimitedReader::Field> DelimitedReader::next()
 
 std::string quotedField(std::string_view text)
 {
-    return "\"" + std::string(text) + "\"";
+    std::string out = "\"";
+    for (const char c : text) {
+        if (c == '"')
+            out += '"';
+        out += c;
+    }
+    out += '"';
+    return out;
 }
 
 std::string fieldAsNeeded(std::string_view text)

@@ -8,14 +8,16 @@ namespace quillet {
 
 // Reads a text field by field the classic delimited way: a field ends at a comma or at the end of a
 // line (CR LF, LF or CR), blanks before and after it are dropped, and a field that begins with a double
-// quote runs to the next double quote and may hold commas and line ends. Empty lines between fields
-// are skipped, so fields may be spread over lines, unless they are read as empty fields.
+// quote runs to the next single double quote and may hold commas and line ends; a doubled double
+// quote inside it stands for one. Empty lines between fields are skipped, so fields may be spread over
+// lines, unless they are read as empty fields.
 class DelimitedReader {
 public:
     struct Field {
         std::string text;
         bool quoted = false;
-        int line = 1; // where the field starts, from 1
+        bool textAfterQuote = false; // text between the closing quote and the delimiter, dropped
+        int line = 1;                // where the field starts, from 1
     };
     enum class BlankLines { Skipped, AreFields };
 
@@ -42,7 +44,8 @@ private:
     bool m_afterComma = false;
 };
 
-// A text field as the classic delimited writer puts it: in double quotes.
+// A text field as the classic delimited writer puts it: in double quotes, a double quote inside doubled
+// so that it reads back whole.
 std::string quotedField(std::string_view text);
 
 // A text field written so that it reads back whole: in double quotes only when it needs them (a comma,

@@ -2,6 +2,7 @@
 
 #include "AircraftTypes.h"
 #include "Settings.h"
+#include "UserFolder.h"
 #include "load/Summary.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -10,6 +11,28 @@
 #include <optional>
 
 namespace quillet {
+
+namespace {
+
+// Why an entry whose aircraft folder is there still cannot be listed. Nothing when the folder itself
+// is missing: that is an entry not set up yet.
+std::optional<std::string> whyNotListed(const std::string& folder, const std::filesystem::path& base)
+{
+    std::error_code ec;
+    const auto found = findPath(folder, base);
+    if (!found)
+        return std::nullopt;
+    if (!std::filesystem::is_directory(*found, ec))
+        return "\"" + folder + "\" is a file, not a folder";
+    const auto cfg = findPath(folder + "\\aircraft.cfg", base);
+    if (!cfg)
+        return "its folder \"" + folder + "\" holds no aircraft.cfg";
+    if (std::filesystem::is_directory(*cfg, ec))
+        return "the aircraft.cfg in \"" + folder + "\" is a folder, not a file";
+    return "the aircraft.cfg in \"" + folder + "\" is not a plain file";
+}
+
+} // namespace
 
 Form1::Form1(Session& session, FormRegistry& forms)
     : m_session(session), m_forms(forms), m_form4(session, *this)
@@ -126,27 +149,38 @@ void Form1::loadini(int& count)
     Combo1.clear();
 
     const auto file = findPath(kSettingsFile, m_session.programFolder);
-    auto bytes =
-        file ? m_session.files.read(*file, kSettingsMaxBytes)
-             : Result<std::string>(Error{"\"" + std::string(kSettingsFile) + "\" was not found in \"" +
-                                         displayPath(m_session.programFolder) + "\"."});
-    if (bytes) {
-        if (const auto notText = whyNotText(bytes.value()))
-            bytes = Error{"\"" + displayPath(*file) + "\" " + *notText + "."};
-    }
     Settings settings;
-    if (bytes) {
-        settings = parseSettings(bytes.value(), kMenuCapacity);
-        for (const std::string& problem : settings.problems) {
-            m_session.messages.reportOnce("The settings file \"" + displayPath(*file) +
-                                          "\" is not complete: " + problem + ".");
-        }
-    } else {
+    if (!file) {
+        // A first start: every type waits in the dialog's list of available aircraft, so the dialog
+        // can be used at once, as in a user folder's starter settings.
+        settings = parseSettings(starterSettings(), kMenuCapacity);
         m_session.messages.reportOnce(
-            "The settings could not be read: " + bytes.error().message +
-            " Quillet starts with no aircraft and the simulator folder \"" + std::string(kDefaultSimFolder) +
-            "\"; set them in the configuration dialog, which saves them when it is closed.");
-        settings.simfolder = std::string(kDefaultSimFolder);
+            "Quillet found no \"" + std::string(kSettingsFile) + "\" in \"" +
+            displayPath(m_session.programFolder) +
+            "\", so it starts with all its aircraft types waiting under \"Avaliable Aircraft\". Next, in the "
+            "configuration dialog, give the simulator folder (the one holding fs2000.exe), then choose each "
+            "aircraft you fly, type or browse to its folder and press \"Add\" when it appears; closing the "
+            "dialog saves the settings.");
+    } else {
+        auto bytes = m_session.files.read(*file, kSettingsMaxBytes);
+        if (bytes) {
+            if (const auto notText = whyNotText(bytes.value()))
+                bytes = Error{"\"" + displayPath(*file) + "\" " + *notText + "."};
+        }
+        if (bytes) {
+            settings = parseSettings(bytes.value(), kMenuCapacity);
+            for (const std::string& problem : settings.problems) {
+                m_session.messages.reportOnce("The settings file \"" + displayPath(*file) +
+                                              "\" is not complete: " + problem + ".");
+            }
+        } else {
+            m_session.messages.reportOnce(
+                "The settings could not be read: " + bytes.error().message +
+                " Quillet starts with no aircraft and the simulator folder \"" +
+                std::string(kDefaultSimFolder) +
+                "\"; set them in the configuration dialog, which saves them when it is closed.");
+            settings.simfolder = std::string(kDefaultSimFolder);
+        }
     }
 
     state.simfolder = settings.simfolder;
@@ -166,11 +200,15 @@ void Form1::loadini(int& count)
             continue;
         }
         // A flag once set stays set for the run.
-        if (fileExists(state.simfolder + "\\aircraft\\" + state.menufolder[i] + "\\aircraft.cfg",
-                       m_session.programFolder)) {
+        const std::string folder = state.simfolder + "\\aircraft\\" + state.menufolder[i];
+        if (fileExists(folder + "\\aircraft.cfg", m_session.programFolder)) {
             state.menuvalid[i] = true;
             Combo1.addItem(state.menutype[i]);
             Combo1.tooltip = "Select Aircraft Type";
+        } else if (const auto why = whyNotListed(folder, m_session.programFolder)) {
+            m_session.messages.reportOnce("\"" + state.menutype[i] + "\" is not in the aircraft list: " +
+                                          *why + ". Put the aircraft's aircraft.cfg there, or give \"" +
+                                          state.menutype[i] + "\" its folder in the configuration dialog.");
         }
     }
 

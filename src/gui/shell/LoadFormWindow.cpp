@@ -56,6 +56,12 @@ void LoadFormWindow::closeEvent(QCloseEvent* event)
         event->ignore();
 }
 
+void LoadFormWindow::showEvent(QShowEvent* event)
+{
+    fitOnScreen(this);
+    QMainWindow::showEvent(event);
+}
+
 void LoadFormWindow::showPhoto(PictureBox* box, const std::filesystem::path& file)
 {
     const QString shown = QString::fromStdString(file.string());

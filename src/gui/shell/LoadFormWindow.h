@@ -44,6 +44,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     // Shows the aircraft's photograph in its picture box, loading the file only when it changed.
     void showPhoto(PictureBox* box, const std::filesystem::path& file);
     // Builds the menu bar. The first menu is the File menu: its save item takes Ctrl+S, and Undo and

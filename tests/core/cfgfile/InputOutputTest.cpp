@@ -570,5 +570,91 @@ TEST_F(CfgFileTest, BothFilesAreCheckedBeforeEitherIsWritten)
         << told[0];
 }
 
+// What a hand edit puts into a station file must survive the next save as it is, and must be
+// something aircraft.cfg can take; otherwise the file is refused by its line, and nothing written.
+TEST_F(CfgFileTest, HandEditsThatASaveWouldLoseOrSpoilAreRefusedByTheirLine)
+{
+    const std::string head = "4,16950,16500,10615,15000,3578\r\n3,1,1,2,0,1,0\r\n";
+    const std::string rest =
+        "\"Co-pilot\",13.5,2,0,0\r\n\"Passenger 1\",5.25,-1.1,0,0\r\n\"Cargo\",-17,0,0,0\r\n";
+    struct Case {
+        std::string cfg;
+        std::string pilot; // the first station's line
+        std::string said;
+    };
+    const std::string section = "[WEIGHT_AND_BALANCE]\r\n";
+    const Case cases[] = {
+        {section, "\"Pilot\",13.5,-2,0,99999999",
+         "line 3: the weight of station 0 is \"99999999\" lb, more than the maximum take-off weight of 16950 "
+         "lb"},
+        {section, "\"Pilot\",13.5,-2,0,1e30",
+         "station 0 is \"1e30\" lb, more than the maximum take-off weight"},
+        {section, "\"Pilot [left]\",13.5,-2,0,0",
+         "line 3: the label of station 0 \"Pilot [left]\" holds a \"[\", which aircraft.cfg would read as a "
+         "new "
+         "section"},
+        {section, "\"Seat \"3A\"\",13.5,-2,0,0",
+         "line 3: the label of station 0 \"Seat \" is followed by more text after its closing double quote"},
+        {"", "\"Pilot\",13.5,-2,0,0", "aircraft.cfg\" is empty (0 bytes), so it describes no aircraft"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.said);
+        writeCfg(c.cfg);
+        writeStations(head + c.pilot + "\r\n" + rest);
+        const auto filesBefore = allFiles();
+        EXPECT_FALSE(readcfg(session));
+        const auto told = session.messages.take();
+        ASSERT_EQ(told.size(), 1u);
+        EXPECT_NE(told[0].find(c.said), std::string::npos) << told[0];
+        EXPECT_FALSE(writecfg(session));
+        session.messages.take();
+        EXPECT_EQ(allFiles(), filesBefore);
+    }
+}
+
+TEST_F(CfgFileTest, LabelsWithQuotesAndLoadsUpToTheLimitsReadBackAsTheyWereWritten)
+{
+    writeCfg("[WEIGHT_AND_BALANCE]\r\n");
+    // A quote inside a label is written doubled; a station may weigh the whole take-off weight.
+    const std::string file = "4,16950,16500,10615,15000,3578\r\n3,1,1,2,0,1,0\r\n"
+                             "\"Seat \"\"3A\"\"\",13.5,-2,0,16950\r\n\"\"\"\",13.5,2,0,0\r\n"
+                             "\"Passenger 1\",5.25,-1.1,0,0\r\n\"Cargo\",-17,0,0,0\r\n";
+    writeStations(file);
+    ASSERT_TRUE(readcfg(session));
+    EXPECT_EQ(session.state.stationname[0], "Seat \"3A\"");
+    EXPECT_EQ(session.state.stationname[1], "\"");
+    ASSERT_TRUE(writecfg(session));
+    EXPECT_EQ(TempDir::readFile(stations()), file);
+    EXPECT_NE(TempDir::readFile(cfg()).find("station_load.0 = 16950, 13.5, -2.0, 0.0 // Seat \"3A\"\r\n"),
+              std::string::npos);
+
+    // The most stations the program holds.
+    std::string full = "4,16950,16500,10615,15000,3578\r\n500,1,1,2,0,1,0\r\n";
+    for (int i = 0; i < 501; ++i)
+        full += "\"S" + std::to_string(i) + "\",1,0,0,1\r\n";
+    writeStations(full);
+    ASSERT_TRUE(readcfg(session)) << session.messages.pending().front();
+    EXPECT_EQ(session.state.stationname[500], "S500");
+    EXPECT_EQ(session.state.loadweight, 501);
+}
+
+// A weight the reader would refuse is not saved either: the next read would lock the type's load out.
+TEST_F(CfgFileTest, ALoadTheReaderWouldRefuseIsNotSaved)
+{
+    writeCfg("[WEIGHT_AND_BALANCE]\r\n");
+    for (const float typed : {-40.0f, 16951.0f}) {
+        SCOPED_TRACE(typed);
+        ASSERT_TRUE(readcfg(session));
+        const auto filesBefore = allFiles();
+        session.state.stationweight[3] = typed;
+        EXPECT_FALSE(writecfg(session));
+        const auto told = session.messages.take();
+        ASSERT_EQ(told.size(), 1u);
+        EXPECT_NE(told[0].find("would not read back: line 6: the weight of station 3 is "), std::string::npos)
+            << told[0];
+        EXPECT_EQ(allFiles(), filesBefore);
+    }
+}
+
 } // namespace
 } // namespace quillet

@@ -17,45 +17,6 @@ constexpr int kLastForward = 284;  // Container F8R
 constexpr int kFirstAft = 285;     // Container A1L
 constexpr int kBulk = 299;
 
-// The golden station file checks the whole table; these are what it does not hold, and what a user
-// meets first.
-TEST(JetB767_300ER, SetUpWritesSeatsCrewAndContainers)
-{
-    LoadState state;
-    state.stationmsg[kBulk] = " Zone Overload";
-    int deckscale = 0;
-    data767::setUpB767_300ER(state, deckscale);
-    EXPECT_EQ(deckscale, 55);
-    EXPECT_EQ(state.maxpax, 261);
-
-    // 269 persons: 261 seats, each named once, then the crew. Rows 17 and 18 have C, D and E only.
-    std::set<std::string> seats;
-    for (int i = 0; i < 261; ++i) {
-        ASSERT_EQ(state.stationname[i].rfind("Passenger ", 0), 0u) << i;
-        seats.insert(state.stationname[i]);
-    }
-    EXPECT_EQ(seats.size(), 261u);
-    EXPECT_EQ(state.stationname[261], "Pilot");
-    EXPECT_EQ(state.stationname[268], "Crew");
-    for (const char* absent : {"Passenger 17A", "Passenger 17B", "Passenger 18F", "Passenger 18G"})
-        EXPECT_EQ(seats.count(absent), 0u) << absent;
-    EXPECT_EQ(state.stationname[108], "Passenger 17C");
-
-    // The centre block sits 0.3 ft forward of the row in first class (1B, 1C), 0.7 ft forward in rows
-    // 5 to 16 (5B, 5C) and 1.25 ft aft from row 19 on (19B, 19C).
-    EXPECT_NEAR(state.stationx[2] - state.stationx[1], 0.3, 1e-5);
-    EXPECT_NEAR(state.stationx[26] - state.stationx[25], 0.7, 1e-5);
-    EXPECT_NEAR(state.stationx[116] - state.stationx[115], -1.25, 1e-5);
-
-    for (int i = kFirstForward; i <= kLastForward; ++i)
-        EXPECT_EQ(state.stationmax[i], 2700) << i;
-    for (int i = kFirstAft; i < kBulk; ++i)
-        EXPECT_EQ(state.stationmax[i], 2500) << i;
-    EXPECT_EQ(state.stationname[kBulk], "Bulk Cargo");
-    EXPECT_EQ(state.stationmax[kBulk], 6450);
-    EXPECT_EQ(state.stationmsg[kBulk], "");
-}
-
 class B767Form : public ::testing::Test {
 protected:
     void SetUp() override { form = &rig.open("B767-300ER"); }
@@ -170,27 +131,6 @@ TEST_F(B767Form, DecksAreDrawnAtTheirPoints)
     EXPECT_NEAR(boxes[1].x2 - boxes[1].x1, 99, 1e-9);
     // Economy seat 5A: 1.5 ft.
     EXPECT_NEAR(boxes[25].x2 - boxes[25].x1, 82.5, 1e-9);
-}
-
-TEST_F(B767Form, SavesThePersonsAsOneStationAndEachContainer)
-{
-    rig.session.state.stationweight[kBulk] = 1000;
-    rig.session.state.stationweight[261] = 200;
-    form->mnusave_Click();
-    const std::string cfg = rig.dir.read("sim/aircraft/b767_300er/aircraft.cfg");
-    EXPECT_NE(cfg.find("// B767-300ER configuration two class 261 passangers.\r\n"), std::string::npos)
-        << cfg;
-    EXPECT_NE(cfg.find("max_number_of_stations = 32\r\n"
-                       "station_load.0 = 200, 64.0, -1.8, 0.0 // All Personel (Crew + Passengers)\r\n"
-                       "station_load.1 = 0, 50.0, -2.6, 0.0 // Container F1L\r\n"
-                       "station_load.2 = 0, 50.0, 2.6, 0.0 // Container F1R\r\n"),
-              std::string::npos)
-        << cfg;
-    EXPECT_NE(cfg.find("station_load.30 = 0, -50.0, 2.6, 0.0 // Container A7R\r\n"
-                       "station_load.31 = 1000, -57.5, 0.0, 0.0 // Bulk Cargo\r\n"
-                       " \r\n"),
-              std::string::npos)
-        << cfg;
 }
 
 } // namespace

@@ -14,22 +14,6 @@
 
 namespace quillet {
 
-// The type's set-up, checked against its published limits, counts and drawing scale.
-inline LoadState expectSetUp(std::string_view type, const JetLimits& l, const JetCounts& c, int scale)
-{
-    LoadState s;
-    int deckscale = 0;
-    findJetType(type)->setUp(s, deckscale);
-    EXPECT_EQ(deckscale, scale);
-    EXPECT_EQ(std::tuple(s.maxtakeoff, s.maxlanding, s.emptyweight, s.maxfuel, s.maxzerofuel),
-              std::tuple(l.maxtakeoff, l.maxlanding, l.emptyweight, l.maxfuel, l.maxzerofuel));
-    EXPECT_EQ(std::tuple(s.maxpax, s.cfgstations, s.seats1, s.seats2, s.seats3, s.nstations, s.ncargo,
-                         s.nlower, s.ncrew),
-              std::tuple(c.maxpax, c.cfgstations, c.seats1, c.seats2, c.seats3, c.nstations, c.ncargo,
-                         c.nlower, c.ncrew));
-    return s;
-}
-
 // A text drawn on a deck picture, where the drawing puts it; kAnywhere leaves a coordinate unchecked.
 struct DrawnText {
     std::string_view text;
@@ -51,25 +35,6 @@ inline void expectTexts(const RecordingCanvas& canvas, std::initializer_list<Dra
         if (!std::isnan(text.y))
             EXPECT_DOUBLE_EQ(drawn->y1, text.y) << text.text;
         ++drawn;
-    }
-}
-
-// A station as the type's published table gives it; a maximum of 0 for persons.
-struct TableStation {
-    int index;
-    std::string_view name;
-    double x;
-    double y;
-    float maximum = 0;
-};
-
-inline void expectStations(const LoadState& state, std::initializer_list<TableStation> stations)
-{
-    for (const TableStation& station : stations) {
-        EXPECT_EQ(state.stationname[station.index], station.name) << station.index;
-        EXPECT_NEAR(state.stationx[station.index], station.x, 1e-4) << station.index;
-        EXPECT_NEAR(state.stationy[station.index], station.y, 1e-6) << station.index;
-        EXPECT_EQ(state.stationmax[station.index], station.maximum) << station.index;
     }
 }
 

@@ -11,43 +11,6 @@
 namespace quillet {
 namespace {
 
-// The golden station files check names, positions and counts; these are what they do not hold. (The
-// DC-9-30F's maxima are checked through its heavy load below.)
-TEST(JetFreighters, SetUpsWriteScalesMaximaAndContainerSizes)
-{
-    LoadState dc9;
-    int dc9Scale = 0;
-    DataDC9::setUpDC9_30F(dc9, dc9Scale);
-    EXPECT_EQ(dc9Scale, 65);
-    EXPECT_EQ(dc9.maxpax, 158);
-    // Containers 1 and 10 are 54 in long and 88 in wide, the eight between them 88 by 108 in.
-    for (int i : {3, 12}) {
-        EXPECT_NEAR(dc9.containerbox[i][2], 4.5, 1e-5) << i;
-        EXPECT_NEAR(dc9.containerbox[i][3], 7.3333, 1e-4) << i;
-    }
-    for (int i = 4; i <= 11; ++i) {
-        EXPECT_NEAR(dc9.containerbox[i][2], 7.3333, 1e-4) << i;
-        EXPECT_NEAR(dc9.containerbox[i][3], 9, 1e-5) << i;
-    }
-
-    LoadState dc8;
-    int dc8Scale = 0;
-    DataDC8::setUpDC8_71F(dc8, dc8Scale);
-    EXPECT_EQ(dc8Scale, 47);
-    EXPECT_EQ(dc8.maxpax, 3);
-    for (int i = 3; i <= 19; ++i) {
-        EXPECT_EQ(dc8.stationmax[i], 8800) << i;
-        EXPECT_NEAR(dc8.containerbox[i][2], 7.3333, 1e-4) << i;
-        EXPECT_NEAR(dc8.containerbox[i][3], 10.4167, 1e-4) << i;
-    }
-    EXPECT_EQ(dc8.stationname[20], "Container 18");
-    EXPECT_EQ(dc8.stationmax[20], 5000);
-    EXPECT_NEAR(dc8.containerbox[20][2], 10.4167, 1e-4);
-    EXPECT_NEAR(dc8.containerbox[20][3], 7.3333, 1e-4);
-    EXPECT_EQ(dc8.stationmax[21], 15000);
-    EXPECT_EQ(dc8.stationmax[22], 15000);
-}
-
 // The boxes of a freighter's main deck, in drawing order: one per container.
 std::vector<DrawOp> containerBoxes(JetRig& rig)
 {
@@ -191,30 +154,48 @@ TEST(JetFreighters, HeavyLoadsEveryCargoStationAtItsOwnShare)
     EXPECT_EQ(form.labels.lblpass.text, "Containers  10 / 10");
 }
 
-TEST(JetFreighters, SavesOneLinePerStationAsACargoConfiguration)
+// Light and Medium load the cargo after the first two containers at a share of its maxima scaled by
+// what the zero-fuel weight leaves for cargo: (maxzerofuel - emptyweight) / the sum of all maxima.
+struct ScaledCargo {
+    const char* type;
+    void (Boeing::*preset)();
+    double share; // a × 0.5 + b of the preset
+    int station;  // the third container
+    double expected;
+};
+
+void PrintTo(const ScaledCargo& c, std::ostream* out)
 {
-    for (const auto& [type, folder, stations] :
-         {std::tuple{"DC-9-30F", "dc_9_30f", 15}, std::tuple{"DC-8-71F", "dc_8_71f", 23}}) {
-        JetRig rig;
-        Boeing& form = rig.open(type);
-        rig.session.state.stationweight[0] = 180;
-        rig.session.state.stationweight[3] = 1500;
-        form.mnusave_Click();
-        const std::string cfg = rig.dir.read(std::string("sim/aircraft/") + folder + "/aircraft.cfg");
-        EXPECT_NE(cfg.find("// " + std::string(type) + " configurationCrago Configuration\r\n"),
-                  std::string::npos)
-            << cfg;
-        EXPECT_NE(cfg.find("max_number_of_stations = " + std::to_string(stations) + "\r\n"),
-                  std::string::npos)
-            << cfg;
-        EXPECT_NE(cfg.find("station_load.0 = 180, "), std::string::npos) << cfg;
-        EXPECT_NE(cfg.find("station_load.3 = 1500, "), std::string::npos) << cfg;
-        EXPECT_NE(cfg.find("station_load." + std::to_string(stations - 1) + " = 0, "), std::string::npos)
-            << cfg;
-        EXPECT_NE(cfg.find(" // Lower Deck Cargo Aft\r\n \r\n"), std::string::npos) << cfg;
-        EXPECT_EQ(cfg.find("station_load." + std::to_string(stations) + " "), std::string::npos) << cfg;
-    }
+    *out << c.type << (c.preset == &Boeing::mnulight_Click ? " Light" : " Medium");
 }
+
+class JetFreighterPresets : public ::testing::TestWithParam<ScaledCargo> {};
+
+TEST_P(JetFreighterPresets, ScaleTheLaterCargoByTheZeroFuelWeight)
+{
+    const ScaledCargo& c = GetParam();
+    JetRig rig;
+    Boeing& form = rig.open(c.type);
+    pushPresetDraws(rig.random, 0.9, 0.5, rig.session.state.ncargo);
+    (form.*c.preset)();
+    EXPECT_NEAR(rig.session.state.stationweight[c.station], c.expected * c.share, 0.01);
+}
+
+constexpr double kLight = 0.28 * 0.5 + 0.05;
+constexpr double kMedium = 0.33 * 0.5 + 0.33;
+// Each type's station maximum × (maxzerofuel - emptyweight) / sum of its cargo maxima.
+constexpr double kB757F = 8800 * (200000.0 - 112000) / (15 * 8800 + 10300 + 16300);
+constexpr double kDC9 = 4800 * (87000.0 - 56430) / (2200 + 8 * 4800 + 2100 + 7300 + 4300);
+constexpr double kDC8 = 8800 * (234000.0 - 152700) / (17 * 8800 + 5000 + 15000 + 15000);
+
+INSTANTIATE_TEST_SUITE_P(
+    SecondGroup, JetFreighterPresets,
+    ::testing::Values(ScaledCargo{"B757-200F", &Boeing::mnulight_Click, kLight, 4, kB757F},
+                      ScaledCargo{"B757-200F", &Boeing::mnumed_Click, kMedium, 4, kB757F},
+                      ScaledCargo{"DC-9-30F", &Boeing::mnulight_Click, kLight, 5, kDC9},
+                      ScaledCargo{"DC-9-30F", &Boeing::mnumed_Click, kMedium, 5, kDC9},
+                      ScaledCargo{"DC-8-71F", &Boeing::mnulight_Click, kLight, 5, kDC8},
+                      ScaledCargo{"DC-8-71F", &Boeing::mnumed_Click, kMedium, 5, kDC8}));
 
 } // namespace
 } // namespace quillet

@@ -19,13 +19,23 @@ public:
     {
         for (const JetType& jet : jetTypes()) {
             const std::string type(jet.type);
-            std::string folder = type;
-            for (char& c : folder)
-                c = c == '-' ? '_' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
             addAircraft(
-                type, folder,
+                type, folderOf(type),
                 "[fltsim.0]\r\ntitle=Test\r\n\r\n[WEIGHT_AND_BALANCE]\r\nmax_number_of_stations = 0\r\n");
         }
+    }
+
+    static std::string folderOf(std::string type)
+    {
+        for (char& c : type)
+            c = c == '-' ? '_' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        return type;
+    }
+
+    // The type's aircraft.cfg as the simulator reads it.
+    std::string aircraftCfg(const std::string& type) const
+    {
+        return dir.read("sim/aircraft/" + folderOf(type) + "/aircraft.cfg");
     }
 
     // The form opened for a type the way "Adjust" opens it.

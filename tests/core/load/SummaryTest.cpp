@@ -265,5 +265,25 @@ TEST(BalanceIndicator, EveryCallStartsFromAClearPicture)
     EXPECT_EQ(ops[4].kind, DrawOp::Kind::Clear);
 }
 
+// A jet loaded on its left side only: the centre of gravity lies 0.55 ft left of the reference point,
+// beyond 2 % of the 12 ft span across but within 2 % of the 120 ft span along.
+TEST(WeightSummary, LoadOnOneSideOnlyIsOutOfBalanceAcross)
+{
+    LoadState state;
+    state.emptyweight = 10000;
+    state.maxtakeoff = state.maxzerofuel = state.maxfuel = 1e6f;
+    state.stationx[0] = 60;
+    state.stationx[1] = -60;
+    state.stationy[2] = -6;
+    state.stationy[3] = 6;
+    state.stationweight[2] = state.loadweight = 1000;
+    TestForm form;
+    summary(form, state, "B737-300");
+    EXPECT_TRUE(form.labels.warning.visible);
+    EXPECT_EQ(form.labels.warning.text, "Warning aircraft out of balance");
+    EXPECT_EQ(dot(form.picture4).colour, kBlue);
+    EXPECT_EQ(dot(form.picture3).colour, kRed);
+}
+
 } // namespace
 } // namespace quillet

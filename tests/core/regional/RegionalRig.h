@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TempDir.h"
+#include "FormRig.h"
 #include "regional/CRJ200.h"
 #include "regional/RegionalForm.h"
 
@@ -10,31 +10,20 @@
 
 namespace quillet {
 
-// A program folder with the photographs and a simulator folder holding an aircraft.cfg for each
-// regional type (the CRJ-200ER last), the aircraft menu pointing at them, and a session over it all.
-class RegionalRig {
+// The regional types in the aircraft menu (the CRJ-200ER last), each with its aircraft.cfg and its
+// photograph.
+class RegionalRig : public FormRig {
 public:
-    explicit RegionalRig(RandomSource* generator = nullptr)
-        : session(prompt, generator ? *generator : random, clock, dir.path())
+    explicit RegionalRig(RandomSource* generator = nullptr) : FormRig(generator)
     {
-        LoadState& state = session.state;
-        state.simfolder = (dir.path() / "fs2000").string();
         const char* folders[] = {"beech", "emb120", "dash8", "crj200"};
-        const std::string_view types[] = {beechType().type, emb120Type().type, dhc8Type().type,
-                                          crj200Type().type};
-        const std::string_view photos[] = {beechType().layout.photoFile, emb120Type().layout.photoFile,
-                                           dhc8Type().layout.photoFile, crj200Type().layout.photoFile};
+        const RegionalType* types[] = {&beechType(), &emb120Type(), &dhc8Type(), &crj200Type()};
         for (int i = 0; i < 4; ++i) {
-            state.menutype[i] = std::string(types[i]);
-            state.menufolder[i] = folders[i];
-            dir.write(
-                std::string("fs2000/aircraft/") + folders[i] + "/aircraft.cfg",
+            addAircraft(
+                std::string(types[i]->type), folders[i],
                 "[fltsim.0]\r\ntitle=Test\r\n\r\n[WEIGHT_AND_BALANCE]\r\nmax_number_of_stations = 0\r\n");
-            dir.write(std::string(photos[i]), "GIF89a");
+            dir.write(std::string(types[i]->layout.photoFile), "GIF89a");
         }
-        state.nmenu = 4;
-        session.currentType = [this] { return currentType; };
-        session.refreshMain = [this] { ++mainRefreshes; };
     }
 
     // The type's form, set up and showing its stored load the way "Adjust" opens it.
@@ -63,15 +52,8 @@ public:
         return std::accumulate(weights.begin(), weights.end(), 0.0f);
     }
 
-    TempDir dir;
-    ScriptedPrompt prompt;
-    ScriptedRandom random;
-    FixedClock clock{{2001, 3, 7}};
-    Session session;
-    std::string currentType;
     std::unique_ptr<RegionalForm> form;
     std::unique_ptr<CRJ200> crj;
-    int mainRefreshes = 0;
 };
 
 } // namespace quillet

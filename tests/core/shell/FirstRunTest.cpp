@@ -1,15 +1,19 @@
 // The station file each type writes the first time it is read: its built-in table with nobody
 // aboard, compared byte for byte with a file under tests/data that was checked by hand against the
-// type's published table, through the main window as a user meets it. A new type adds one line to
-// kFirstRuns and its file.
+// type's published table, through the main window as a user meets it. Beside it the whole table the
+// form sets up (full precision, maxima, seat-map points and container boxes, which the station file
+// does not keep). A new type adds one line to kFirstRuns and its two files.
 
 #include "Golden.h"
 #include "ShellFixture.h"
 #include "freighter/FreighterForms.h"
 #include "jets/JetForms.h"
 #include "regional/RegionalForms.h"
+#include "shell/AircraftTypes.h"
 
+#include <algorithm>
 #include <cctype>
+#include <cstdio>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -38,6 +42,39 @@ void registerLoadForms(FormRegistry& forms)
     registerFreighterForms(forms);
 }
 
+std::string number(double value)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%.7g", value);
+    return text;
+}
+
+// The set-up table as text: limits, counts, then one line per station.
+std::string tableText(const LoadState& s)
+{
+    std::string text = "limits";
+    for (float limit : {s.maxtakeoff, s.maxlanding, s.emptyweight, s.maxfuel, s.maxzerofuel})
+        text += " " + number(limit);
+    text += "\ncounts";
+    for (int count :
+         {s.maxpax, s.cfgstations, s.seats1, s.seats2, s.seats3, s.nstations, s.ncargo, s.nlower, s.ncrew})
+        text += " " + std::to_string(count);
+    text += "\n";
+    for (int i = 0; i < std::max(s.stationsInUse(), s.cfgstations); ++i) {
+        text += std::to_string(i) + " \"" + s.stationname[i] + "\"";
+        for (double value : {s.stationx[i], s.stationy[i], s.stationz[i], s.stationmax[i]})
+            text += " " + number(value);
+        text += " at " + std::to_string(s.stationpx[i]) + " " + std::to_string(s.stationpy[i]);
+        if (i < kContainerBoxCapacity && s.containerbox[i] != std::array<float, 4>{}) {
+            text += " box";
+            for (float value : s.containerbox[i])
+                text += " " + number(value);
+        }
+        text += "\n";
+    }
+    return text;
+}
+
 class FirstRunStationFile : public ShellFixture, public ::testing::WithParamInterface<FirstRun> {};
 
 TEST_P(FirstRunStationFile, IsTheBuiltInTableWithNobodyAboard)
@@ -52,6 +89,22 @@ TEST_P(FirstRunStationFile, IsTheBuiltInTableWithNobodyAboard)
     ASSERT_EQ(form1.Combo1.text(), type);
     expectGoldenFile(GetParam().golden, dir.read(type + ".cfg"));
     EXPECT_TRUE(told("station file").empty());
+}
+
+// The form's own set-up with no station file yet, before anything is read back from one.
+TEST_P(FirstRunStationFile, SetsUpTheBuiltInTable)
+{
+    const std::string type = GetParam().type;
+    dir.makeAircraft("plane");
+    state.simfolder = dir.sim();
+    state.menutype[0] = type;
+    state.menufolder[0] = "plane";
+    state.nmenu = 1;
+    session.currentType = [type] { return type; };
+    registerLoadForms(forms);
+
+    forms.form(findAircraftType(type)->form, session)->Form_Load();
+    expectGoldenFile(type + ".table", tableText(state));
 }
 
 std::string testName(const ::testing::TestParamInfo<FirstRun>& info)

@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
 namespace quillet {
 namespace {
 
@@ -123,14 +127,25 @@ TEST_F(StartUp, LineTwoZeroLeavesTheListEmpty)
     EXPECT_EQ(state.nmenu, 0);
 }
 
-TEST_F(StartUp, MissingSettingsFileStartsEmptyWithTheDefaultFolderAndSaysSo)
+TEST_F(StartUp, MissingSettingsFileOffersEveryTypeInTheDialogAndSaysWhatToDoNext)
 {
     form1.Form_Load();
     EXPECT_EQ(state.simfolder, "C:\\program files\\microsoft games\\fs2000");
-    EXPECT_EQ(state.nmenu, 0);
     EXPECT_TRUE(form1.Combo1.items().empty());
-    ASSERT_EQ(session.messages.pending().size(), 1u);
-    EXPECT_NE(session.messages.pending()[0].find("\"quillet.ini\" was not found"), std::string::npos);
+    EXPECT_TRUE(form1.form4().Combo1.items().empty());
+    EXPECT_EQ(form1.form4().Combo2.items(),
+              (std::vector<std::string>{"Beech 1900D", "Empraer EMB_120", "DHC-8-300", "CRJ-200ER",
+                                        "DC-10-30F", "B727-212ADV", "B737-200ADV", "B737-300", "B757-200",
+                                        "B757-200F", "B767-300ER", "DC-8-71F", "DC-9-30F", "MD-90-30"}));
+    EXPECT_EQ(form1.form4().Combo2.text(), "Beech 1900D") << "ready for its folder";
+    EXPECT_EQ(
+        session.messages.pending(),
+        std::vector<std::string>{
+            "Quillet found no \"quillet.ini\" in \"" + dir.path().string() +
+            "\", so it starts with all its aircraft types waiting under \"Avaliable Aircraft\". Next, in the "
+            "configuration dialog, give the simulator folder (the one holding fs2000.exe), then choose each "
+            "aircraft you fly, type or browse to its folder and press \"Add\" when it appears; closing the "
+            "dialog saves the settings."});
     EXPECT_TRUE(form1.form4().visible) << "the configuration dialog is shown";
     EXPECT_FALSE(std::filesystem::exists(dir.path() / "quillet.ini")) << "nothing is written at start";
 }
@@ -304,6 +319,56 @@ TEST_F(StartUp, AFolderNameThatIsAPathIsNotListedAndNamedOnce)
     EXPECT_FALSE(dialog.Command1_visible);
     dialog.invalid_dir.setText("b737_300");
     EXPECT_TRUE(dialog.Command1_visible);
+}
+
+TEST_F(StartUp, AFullMenuOfTwentyOneEntriesIsTakenWithoutAWord)
+{
+    std::vector<std::string> entries;
+    for (int i = 0; i < 21; ++i)
+        entries.push_back("T" + std::to_string(i) + ",f" + std::to_string(i));
+    dir.writeIni(dir.sim(), entries);
+    form1.Form_Load();
+    EXPECT_EQ(state.nmenu, 21);
+    EXPECT_EQ(state.menutype[20], "T20");
+    EXPECT_TRUE(session.messages.pending().empty()) << session.messages.pending().front();
+}
+
+// Entries whose folder is missing are simply not set up yet; one whose folder is there but holds no
+// usable aircraft.cfg is named, once a run.
+TEST_F(StartUp, AnEntryWhoseFolderHasNoPlainAircraftCfgIsNamedOnceWithWhy)
+{
+    dir.makeSimulator();
+    dir.makeAircraft("b737_300");
+    dir.write("sim/aircraft/dash8/readme.txt", "");
+    std::filesystem::create_directories(dir.path() / "sim/aircraft/md90/aircraft.cfg");
+    dir.write("sim/aircraft/beech", "a file");
+    std::vector<std::string> entries{"B737-300,b737_300", "DHC-8-300,dash8", "MD-90-30,md90",
+                                     "Beech 1900D,beech", "B727-212ADV,not_yet"};
+#ifndef _WIN32
+    std::filesystem::create_directories(dir.path() / "sim/aircraft/b757");
+    ASSERT_EQ(mkfifo((dir.path() / "sim/aircraft/b757/aircraft.cfg").c_str(), 0600), 0);
+    entries.push_back("B757-200,b757");
+#endif
+    dir.writeIni(dir.sim(), entries);
+    form1.Form_Load();
+    form1.mnuconfigair_Click(); // reads the file again
+    EXPECT_EQ(form1.Combo1.items(), std::vector<std::string>{"B737-300"});
+
+    const auto notListed = [&](const std::string& type, const std::string& why) {
+        return "\"" + type + "\" is not in the aircraft list: " + why +
+               ". Put the aircraft's aircraft.cfg there, or give \"" + type +
+               "\" its folder in the configuration dialog.";
+    };
+    const auto folder = [&](const std::string& name) { return dir.sim() + "\\aircraft\\" + name; };
+    std::vector<std::string> expected{
+        notListed("DHC-8-300", "its folder \"" + folder("dash8") + "\" holds no aircraft.cfg"),
+        notListed("MD-90-30", "the aircraft.cfg in \"" + folder("md90") + "\" is a folder, not a file"),
+        notListed("Beech 1900D", "\"" + folder("beech") + "\" is a file, not a folder")};
+#ifndef _WIN32
+    expected.push_back(
+        notListed("B757-200", "the aircraft.cfg in \"" + folder("b757") + "\" is not a plain file"));
+#endif
+    EXPECT_EQ(told("is not in the aircraft list"), expected);
 }
 
 } // namespace
