@@ -1,7 +1,6 @@
 #include "DC10F.h"
 
 #include "DC10FLayout.h"
-#include "cfgfile/inputoutput.h"
 #include "dataDC10.h"
 #include "load/DeckMapping.h"
 #include "load/StationInput.h"
@@ -110,12 +109,7 @@ int clampedTo(int value, int capacity)
 
 } // namespace
 
-DC10F::DC10F(Session& session)
-    : LoadForm(session), m_picture1(session.makeCanvas(dc10f::kPicture1.width, dc10f::kPicture1.height)),
-      m_picture4(session.makeCanvas(dc10f::kSummary.Picture4.width, dc10f::kSummary.Picture4.height)),
-      m_picture3(session.makeCanvas(dc10f::kSummary.Picture3.width, dc10f::kSummary.Picture3.height))
-{
-}
+DC10F::DC10F(Session& session) : DeckForm(session, dc10f::kDeck) {}
 
 void DC10F::Form_Load()
 {
@@ -200,13 +194,13 @@ void DC10F::setUpStations()
 void DC10F::mnuload_Click()
 {
     // The reader tells the user itself what went wrong; the form shows whatever it left.
-    static_cast<void>(readcfg(m_session));
+    static_cast<void>(read());
     cargocheck();
 }
 
 void DC10F::mnusave_Click()
 {
-    static_cast<void>(writecfg(m_session));
+    static_cast<void>(save());
 }
 
 int DC10F::markedStations() const

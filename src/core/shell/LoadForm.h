@@ -1,11 +1,15 @@
 #pragma once
 
 #include "load/Planner.h"
+#include "load/LoadHistory.h"
 #include "load/Session.h"
 #include "load/StationGroups.h"
 #include "load/Summary.h"
+#include "platform/Result.h"
 
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace quillet {
 
@@ -22,8 +26,13 @@ public:
     virtual void Form_Load() = 0;
     // Reads the type's stored load again and shows it.
     virtual void mnuload_Click() = 0;
+    // Writes the aircraft's aircraft.cfg and the type's station file from the load state.
+    virtual void mnusave_Click() = 0;
     // Closing: the summary on this form, the main window's refresh, and the main window again.
     virtual void Form_Unload();
+    // Whether the form may close: with unsaved changes the user is asked whether to save them
+    // first. A save that fails, or "Cancel", keeps it open.
+    bool Form_QueryUnload();
 
     void runSummary() { summary(*this, m_session.state, m_session.currentType()); }
 
@@ -34,13 +43,48 @@ public:
     // does.
     void applyPlan(const Plan& plan);
 
+    // Runs a handler as one step of the undo history; it is recorded only when the load changed.
+    // `name` names the step unless exactly one station changed, which then names it.
+    template <class Action>
+    void step(std::string_view name, Action&& action)
+    {
+        LoadSnapshot before = LoadSnapshot::of(m_session.state);
+        std::forward<Action>(action)();
+        m_history.record(name, std::move(before), LoadSnapshot::of(m_session.state));
+    }
+    // Put the load before (after) the last undone step back and show it; false when there is none.
+    bool undo();
+    bool redo();
+    std::string undoName() const { return m_history.undoName(); }
+    std::string redoName() const { return m_history.redoName(); }
+    // Starts a new history when the form is set up for another type than before.
+    void keepHistoryFor(const std::string& type);
+    // Whether the load differs from the one last read or saved.
+    bool modified() const { return m_history.differsFromStored(LoadSnapshot::of(m_session.state)); }
+
+    // Counts the successful saves, so that a window can tell one has happened, and when.
+    int saves() const { return m_saves; }
+    const TimeOfDay& savedAt() const { return m_savedAt; }
+
     bool visible = false;
 
 protected:
-    // What the form runs after its load changed: its checks, its drawing and the summary.
-    virtual void afterLoadChange() { runSummary(); }
+    // The reader and writer of the aircraft file interface; what they succeed in is the load that
+    // counts as saved.
+    Status read();
+    Status save();
+    // Shows a load the history put back: the form's checks and drawing, and the summary.
+    virtual void afterLoadChange() = 0;
 
     Session& m_session;
+
+private:
+    void show(const LoadSnapshot* load);
+
+    LoadHistory m_history;
+    std::string m_historyType;
+    int m_saves = 0;
+    TimeOfDay m_savedAt;
 };
 
 } // namespace quillet
