@@ -84,6 +84,8 @@ private:
         explicit AnsweringPrompt(Choices& choices) : m_choices(choices) {}
         std::optional<std::string> inputBox(const std::string&, const std::string&,
                                             const std::string&) override;
+        // The driver closes no window, so nothing asks this; saving is an action of its own.
+        SaveChoice askToSave(const std::string&, const std::string&) override { return SaveChoice::Discard; }
 
     private:
         Choices& m_choices;

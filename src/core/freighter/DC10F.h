@@ -45,7 +45,6 @@ private:
     bool hits(int station, double X, double Y) const;
     int markedStations() const;
     void preset(double base);
-    void afterLoadChange() override;
 };
 
 } // namespace quillet

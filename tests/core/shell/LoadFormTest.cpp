@@ -1,3 +1,4 @@
+#include "platform/RecordingFileSystem.h"
 #include "FormRig.h"
 #include "cfgfile/StationFile.h"
 #include "freighter/DC10F.h"
@@ -149,8 +150,10 @@ TEST_P(ClosingUnsaved, AsksWhetherToSaveAndClosesOnlyWhenTheLoadIsSafe)
     const std::string stored = rig.dir.read("Beech 1900D.cfg");
     EXPECT_TRUE(form->Form_QueryUnload()) << "nothing to ask yet";
     form->step("Heavy Load", [&] { static_cast<RegionalForm&>(*form).mnuheav_Click(); });
+    RecordingFileSystem disk{systemFiles()};
+    rig.session.files = Files(disk);
     if (GetParam().diskFull)
-        rig.session.files.failWritesAfter(10);
+        disk.failWritesAfter(10);
     rig.clock.set(TimeOfDay{9, 5});
     rig.prompt.answerSave(GetParam().answer);
 
