@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace quillet {
 
@@ -44,6 +45,8 @@ public:
     void mnuheav_Click();
     void Picture1_MouseDown(int Button, int Shift, double X, double Y);
     void Picture1_MouseMove(int Button, int Shift, double X, double Y);
+    std::vector<FocusStation> focusStations() const override;
+    void pressStation(const FocusStation& station, int Button) override;
 
     void redraw();
     void nopass() override;

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quillet {
 
@@ -47,6 +48,8 @@ public:
     void mnuheav_Click();
     void Picture1_MouseDown(int Button, int Shift, double X, double Y);
     void Picture1_MouseMove(int Button, int Shift, double X, double Y);
+    std::vector<FocusStation> focusStations() const override;
+    void pressStation(const FocusStation& station, int Button) override;
 
     void redraw();
     void nopass() override;

@@ -32,6 +32,7 @@ FreighterWindow::FreighterWindow(DC10F& form, Application& app) : LoadFormWindow
     m_decks->onMouseMove = [this](Qt::MouseButtons, double x, double y) {
         m_app.handle([this, x, y] { m_dc10f.Picture1_MouseMove(0, 0, x, y); });
     };
+    loadByKeyboard(m_decks);
 
     m_photo = new PictureBox(client);
     m_photo->setObjectName(QStringLiteral("Picture2"));

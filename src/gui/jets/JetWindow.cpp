@@ -32,6 +32,7 @@ JetWindow::JetWindow(Boeing& form, Application& app) : LoadFormWindow(form, app)
     m_decks->onMouseMove = [this](Qt::MouseButtons, double x, double y) {
         m_app.handle([this, x, y] { m_boeing.Picture1_MouseMove(0, 0, x, y); });
     };
+    loadByKeyboard(m_decks);
 
     m_photo = new PictureBox(client);
     m_photo->setObjectName(QStringLiteral("Picture2"));

@@ -1,5 +1,6 @@
 #include "Accessibility.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QWidget>
 
@@ -17,6 +18,17 @@ void nameForScreenReaders(QWidget* control, const QString& name, const QString& 
         control->setAccessibleName(name);
     if (!description.isEmpty())
         control->setAccessibleDescription(description);
+}
+
+void announce(QWidget* source, const QString& text)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent event(source, text);
+#else
+    static_cast<void>(text);
+    QAccessibleEvent event(source, QAccessible::NameChanged);
+#endif
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace quillet

@@ -2,6 +2,7 @@
 
 #include "Application.h"
 #include "platform/PictureBox.h"
+#include "platform/StationFocus.h"
 #include "platform/Widgets.h"
 #include "shell/LoadForm.h"
 
@@ -17,6 +18,12 @@ void LoadFormWindow::closeEvent(QCloseEvent* event)
     if (m_form.visible)
         m_app.handle([this] { m_form.Form_Unload(); });
     event->accept();
+}
+
+void LoadFormWindow::loadByKeyboard(PictureBox* picture)
+{
+    new StationFocus(picture, m_form,
+                     [this](const std::function<void()>& handler) { m_app.handle(handler); });
 }
 
 void LoadFormWindow::showPhoto(PictureBox* box, const std::filesystem::path& file)

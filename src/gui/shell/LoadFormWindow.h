@@ -26,6 +26,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     // Shows the aircraft's photograph in its picture box, loading the file only when it changed.
     void showPhoto(PictureBox* box, const std::filesystem::path& file);
+    // Lets the keyboard and screen readers load the form's stations on its cabin or decks.
+    void loadByKeyboard(PictureBox* picture);
 
     LoadForm& m_form;
     Application& m_app;
