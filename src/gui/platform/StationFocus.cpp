@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QWindow>
 #include <algorithm>
+#include <cstdlib>
 
 namespace quillet {
 
@@ -149,9 +150,10 @@ public:
         if (!m_focus)
             return nullptr;
         const QPoint local = m_focus->picture()->mapFromGlobal(QPoint(x, y));
-        for (int i = 0; i < m_focus->childCount(); ++i) {
-            if (m_focus->markRect(i).contains(local))
-                return m_focus->child(i);
+        const std::vector<FocusStation> walk = m_focus->stations();
+        for (std::size_t i = 0; i < walk.size(); ++i) {
+            if (m_focus->markRect(walk[i]).contains(local))
+                return m_focus->child(static_cast<int>(i));
         }
         return nullptr;
     }
@@ -239,7 +241,12 @@ QRect StationFocus::markRect(int position) const
     const std::vector<FocusStation> walk = stations();
     if (position < 0 || position >= static_cast<int>(walk.size()))
         return {};
-    const TwipsRect& mark = walk[static_cast<std::size_t>(position)].mark;
+    return markRect(walk[static_cast<std::size_t>(position)]);
+}
+
+QRect StationFocus::markRect(const FocusStation& station) const
+{
+    const TwipsRect& mark = station.mark;
     return twipsRect(mark.left, mark.top, mark.width, mark.height)
         .adjusted(-kMarkMargin, -kMarkMargin, kMarkMargin, kMarkMargin);
 }
@@ -281,12 +288,16 @@ bool StationFocus::eventFilter(QObject* watched, QEvent* event)
         const bool shift = key->modifiers() & Qt::ShiftModifier;
         switch (key->key()) {
         case Qt::Key_Right:
-        case Qt::Key_Down:
-            moveBy(1);
+            setCurrent(m_current + 1);
             return true;
         case Qt::Key_Left:
+            setCurrent(m_current - 1);
+            return true;
         case Qt::Key_Up:
-            moveBy(-1);
+            moveAcross(-1);
+            return true;
+        case Qt::Key_Down:
+            moveAcross(1);
             return true;
         case Qt::Key_Home:
             setCurrent(0);
@@ -317,9 +328,28 @@ bool StationFocus::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-void StationFocus::moveBy(int step)
+void StationFocus::moveAcross(int direction)
 {
-    setCurrent(m_current + step);
+    // The nearest station straight above or below on the picture, whichever way the type's table
+    // runs across the cabin.
+    const std::vector<FocusStation> walk = stations();
+    if (m_current >= static_cast<int>(walk.size()))
+        return;
+    const QRect from = markRect(walk[static_cast<std::size_t>(m_current)]);
+    int nearest = -1;
+    int nearestDistance = 0;
+    for (int i = 0; i < static_cast<int>(walk.size()); ++i) {
+        const QRect to = markRect(walk[static_cast<std::size_t>(i)]);
+        const int distance = (to.center().y() - from.center().y()) * direction;
+        if (distance <= 0 || std::abs(to.center().x() - from.center().x()) > from.width() / 2)
+            continue;
+        if (nearest < 0 || distance < nearestDistance) {
+            nearest = i;
+            nearestDistance = distance;
+        }
+    }
+    if (nearest >= 0)
+        setCurrent(nearest);
 }
 
 void StationFocus::showMark()

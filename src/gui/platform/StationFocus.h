@@ -15,10 +15,10 @@ namespace quillet {
 class PictureBox;
 
 // Makes the picture a load form is loaded on (a cabin, a seat map, the decks) usable without a mouse.
-// The picture takes the focus with Tab; the arrow keys, Home and End move a focus mark along the
-// form's stations; Enter or Space clicks the marked station, Shift+Enter or the menu key right-clicks
-// it. Screen readers see every station as a button inside the picture, named with its load, which
-// they can press and focus. The stations, their order and what a press does are the form's.
+// The picture takes the focus with Tab; Left and Right, Home and End move a focus mark along the
+// form's stations, Up and Down across the cabin; Enter or Space clicks the marked station, Shift+Enter or the
+// menu key right-clicks it. Screen readers see every station as a button inside the picture, named with its
+// load, which they can press and focus. The stations, their order and what a press does are the form's.
 //
 //     new StationFocus(decks, form, [this](const auto& handler) { m_app.handle(handler); });
 class StationFocus : public QObject {
@@ -45,6 +45,7 @@ public:
     QString spokenName(int position) const;
     // The marked outline of the station at that place, in pixels of the picture.
     QRect markRect(int position) const;
+    QRect markRect(const FocusStation& station) const;
 
     // The stations as accessible children of the picture, made when first asked for.
     QAccessibleInterface* child(int position);
@@ -55,7 +56,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void moveBy(int step);
+    // Up (-1) or down (1) on the picture.
+    void moveAcross(int direction);
     void showMark();
     void announce(int position, int eventType);
 
