@@ -110,9 +110,7 @@ int clampedTo(int value, int capacity)
 } // namespace
 
 DC10F::DC10F(Session& session)
-    : LoadForm(session), m_picture1(session.makeCanvas(dc10f::kPicture1.width, dc10f::kPicture1.height)),
-      m_picture4(session.makeCanvas(dc10f::kSummary.Picture4.width, dc10f::kSummary.Picture4.height)),
-      m_picture3(session.makeCanvas(dc10f::kSummary.Picture3.width, dc10f::kSummary.Picture3.height))
+    : DeckForm(session, dc10f::kDeck)
 {
 }
 
@@ -274,11 +272,6 @@ std::vector<FocusStation> DC10F::focusStations() const
                              static_cast<int>(box[3] * scale)}});
     }
     return stations;
-}
-
-void DC10F::pressStation(const FocusStation& station, int Button)
-{
-    Picture1_MouseDown(Button, 0, station.x, station.y);
 }
 
 void DC10F::Picture1_MouseMove(int, int, double X, double Y)

@@ -34,9 +34,7 @@ constexpr std::string_view kZoneOverload = " Zone Overload";
 } // namespace
 
 Boeing::Boeing(Session& session)
-    : LoadForm(session), m_picture1(session.makeCanvas(boeing::kPicture1.width, boeing::kPicture1.height)),
-      m_picture4(session.makeCanvas(boeing::kSummary.Picture4.width, boeing::kSummary.Picture4.height)),
-      m_picture3(session.makeCanvas(boeing::kSummary.Picture3.width, boeing::kSummary.Picture3.height))
+    : DeckForm(session, boeing::kDeck)
 {
 }
 
@@ -231,11 +229,6 @@ std::vector<FocusStation> Boeing::focusStations() const
     for (int i = personCount(); i < cargoEnd(); ++i)
         stations.push_back(around(i, kCargoHit));
     return stations;
-}
-
-void Boeing::pressStation(const FocusStation& station, int Button)
-{
-    Picture1_MouseDown(Button, 0, station.x, station.y);
 }
 
 void Boeing::Picture1_MouseMove(int, int, double X, double Y)
