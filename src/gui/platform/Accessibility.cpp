@@ -24,11 +24,12 @@ void announce(QWidget* source, const QString& text)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     QAccessibleAnnouncementEvent event(source, text);
-#else
-    static_cast<void>(text);
-    QAccessibleEvent event(source, QAccessible::NameChanged);
-#endif
     QAccessible::updateAccessibility(&event);
+#else
+    // A label reports its new text as a name change itself; older Qt can say no more.
+    static_cast<void>(source);
+    static_cast<void>(text);
+#endif
 }
 
 } // namespace quillet

@@ -27,7 +27,7 @@ void nameForScreenReaders(QWidget* control, QLabel* label);
 void nameForScreenReaders(QWidget* control, const QString& name, const QString& description = {});
 
 // Has screen readers say a text that changed away from the focus, such as a new total. Qt before 6.8
-// has no announcement: there the text's own name change is all a screen reader gets.
+// has no announcement: there the label's own name change is all a screen reader gets.
 void announce(QWidget* source, const QString& text);
 
 } // namespace quillet

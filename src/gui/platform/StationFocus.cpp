@@ -6,6 +6,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QWindow>
@@ -283,6 +284,19 @@ bool StationFocus::eventFilter(QObject* watched, QEvent* event)
     case QEvent::FocusOut:
         m_mark->hide();
         break;
+    case QEvent::MouseButtonPress: {
+        // The mark follows the mouse, so the keyboard goes on from the station last clicked.
+        const QPoint at = static_cast<QMouseEvent*>(event)->position().toPoint();
+        const std::vector<FocusStation> walk = stations();
+        for (std::size_t i = 0; i < walk.size(); ++i) {
+            if (markRect(walk[i]).contains(at)) {
+                m_current = static_cast<int>(i);
+                showMark();
+                break;
+            }
+        }
+        break;
+    }
     case QEvent::KeyPress: {
         const auto* key = static_cast<QKeyEvent*>(event);
         const bool shift = key->modifiers() & Qt::ShiftModifier;
@@ -366,8 +380,6 @@ void StationFocus::showMark()
 
 void StationFocus::announce(int position, int eventType)
 {
-    if (!QAccessible::isActive())
-        return;
     QAccessibleEvent event(m_picture, static_cast<QAccessible::Event>(eventType));
     event.setChild(position);
     QAccessible::updateAccessibility(&event);

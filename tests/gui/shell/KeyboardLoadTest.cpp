@@ -7,7 +7,9 @@
 
 #include <QAction>
 #include <QTest>
+#include <algorithm>
 #include <string>
+#include <vector>
 
 namespace quillet {
 namespace {
@@ -84,6 +86,25 @@ std::string formName(const ::testing::TestParamInfo<KeyboardForm>& info)
 
 INSTANTIATE_TEST_SUITE_P(EveryKind, KeyboardLoadEveryForm, ::testing::ValuesIn(kKeyboardForms), formName);
 
+// What the accessibility bus is told: the object, the kind of change and the child it concerns.
+struct Told {
+    QObject* object;
+    QAccessible::Event type;
+    int child;
+    bool operator==(const Told&) const = default;
+};
+std::vector<Told> g_told;
+
+void record(QAccessibleEvent* event)
+{
+    g_told.push_back({event->object(), event->type(), event->child()});
+}
+
+bool wasTold(const Told& told)
+{
+    return std::find(g_told.begin(), g_told.end(), told) != g_told.end();
+}
+
 // The index of the station a screen reader names so, or -1.
 int childNamed(QAccessibleInterface* picture, const QString& name)
 {
@@ -120,9 +141,14 @@ TEST_F(KeyboardLoad, AScreenReaderReadsTheDecksStationByStationAndPressesOne)
     EXPECT_TRUE(station->state().focused);
 
     prompt.answer("170");
+    g_told.clear();
+    const QAccessible::UpdateHandler before = QAccessible::installUpdateHandler(record);
     actions->doAction(QAccessibleActionInterface::pressAction());
+    QAccessible::installUpdateHandler(before);
     EXPECT_EQ(station->text(QAccessible::Name), "Passenger 12C, 170 lb");
     EXPECT_EQ(find<QLabel>(window, "lblpax")->text(), "PAX weight =  170 lb.");
+    EXPECT_TRUE(wasTold({decks, QAccessible::NameChanged, seat})) << "the station's new load";
+    EXPECT_TRUE(wasTold({find<QLabel>(window, "lbltot"), QAccessible::NameChanged, -1})) << "the new total";
     ASSERT_EQ(prompt.asked().size(), 1u);
     EXPECT_EQ(prompt.asked()[0].prompt, "Passenger 12C weight in lbs");
 
