@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QWidget>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -32,6 +33,12 @@ inline std::set<QRgb> coloursIn(const QImage& image, int left, int top, int righ
             found.insert(image.pixel(x, y) & 0xFFFFFF);
     }
     return found;
+}
+
+// A window's title as the desktop shows it: "[*]" becomes "*" while the window is modified.
+inline QString shownTitle(const QWidget* window)
+{
+    return window->windowHandle() ? window->windowHandle()->title() : window->windowTitle();
 }
 
 // The whole program running on a program folder of its own.

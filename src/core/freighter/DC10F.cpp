@@ -1,7 +1,6 @@
 #include "DC10F.h"
 
 #include "DC10FLayout.h"
-#include "cfgfile/inputoutput.h"
 #include "dataDC10.h"
 #include "load/DeckMapping.h"
 #include "load/StationInput.h"
@@ -109,10 +108,7 @@ int clampedTo(int value, int capacity)
 
 } // namespace
 
-DC10F::DC10F(Session& session)
-    : DeckForm(session, dc10f::kDeck)
-{
-}
+DC10F::DC10F(Session& session) : DeckForm(session, dc10f::kDeck) {}
 
 void DC10F::Form_Load()
 {
@@ -197,13 +193,13 @@ void DC10F::setUpStations()
 void DC10F::mnuload_Click()
 {
     // The reader tells the user itself what went wrong; the form shows whatever it left.
-    static_cast<void>(readcfg(m_session));
+    static_cast<void>(read());
     cargocheck();
 }
 
 void DC10F::mnusave_Click()
 {
-    static_cast<void>(writecfg(m_session));
+    static_cast<void>(save());
 }
 
 int DC10F::markedStations() const
@@ -238,6 +234,11 @@ void DC10F::Picture1_MouseDown(int Button, int, double X, double Y)
             state.stationweight[i] = 0;
         }
     }
+    afterLoadChange();
+}
+
+void DC10F::afterLoadChange()
+{
     runSummary();
     cargocheck();
     redraw();

@@ -42,6 +42,7 @@ private:
     bool hits(int station, double X, double Y) const;
     int markedStations() const;
     void preset(double base);
+    void afterLoadChange() override;
 };
 
 } // namespace quillet

@@ -1,7 +1,6 @@
 #include "Boeing.h"
 
 #include "BoeingLayout.h"
-#include "cfgfile/inputoutput.h"
 #include "load/PresetDraws.h"
 #include "load/StationInput.h"
 #include "load/StationLabel.h"
@@ -33,10 +32,7 @@ constexpr std::string_view kZoneOverload = " Zone Overload";
 
 } // namespace
 
-Boeing::Boeing(Session& session)
-    : DeckForm(session, boeing::kDeck)
-{
-}
+Boeing::Boeing(Session& session) : DeckForm(session, boeing::kDeck) {}
 
 int Boeing::personCount() const
 {
@@ -70,14 +66,14 @@ void Boeing::Form_Load()
 void Boeing::mnuload_Click()
 {
     // The reader tells the user itself what went wrong; the form shows whatever it left.
-    static_cast<void>(readcfg(m_session));
+    static_cast<void>(read());
     redraw();
     runSummary();
 }
 
 void Boeing::mnusave_Click()
 {
-    static_cast<void>(writecfg(m_session));
+    static_cast<void>(save());
 }
 
 void Boeing::mnuempty_Click()

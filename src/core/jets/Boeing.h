@@ -51,7 +51,7 @@ private:
     bool isLowerCargo(int station) const;
     void placeStations();
     void fillPass();
-    void afterLoadChange();
+    void afterLoadChange() override;
     void preset(Seating seating, PresetFactors factors);
     int drawSeat(int seats, bool wantOccupied);
 

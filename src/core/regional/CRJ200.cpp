@@ -1,7 +1,6 @@
 #include "CRJ200.h"
 
 #include "CabinDrawing.h"
-#include "cfgfile/inputoutput.h"
 #include "load/DeckMapping.h"
 #include "load/StationInput.h"
 #include "load/StationLabel.h"
@@ -92,7 +91,7 @@ void CRJ200::Form_Load()
 
     m_picture2->clear();
     // The reader tells the user itself what went wrong; the form shows whatever it left.
-    static_cast<void>(readcfg(m_session));
+    static_cast<void>(read());
     placeseats();
     runSummary();
     for (int i = 0; i <= lastPerson(); ++i) {

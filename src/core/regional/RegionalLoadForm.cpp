@@ -1,7 +1,6 @@
 #include "RegionalLoadForm.h"
 
 #include "RegionalPresets.h"
-#include "cfgfile/inputoutput.h"
 #include "load/StationInput.h"
 
 #include <algorithm>
@@ -53,14 +52,14 @@ void RegionalLoadForm::setUpType()
 void RegionalLoadForm::mnuload_Click()
 {
     // The reader tells the user itself what went wrong; the form shows whatever it left.
-    static_cast<void>(readcfg(m_session));
+    static_cast<void>(read());
     redraw();
     runSummary();
 }
 
 void RegionalLoadForm::mnusave_Click()
 {
-    static_cast<void>(writecfg(m_session));
+    static_cast<void>(save());
 }
 
 void RegionalLoadForm::mnulight_Click()
@@ -95,6 +94,11 @@ void RegionalLoadForm::applyPreset(const Preset& preset)
     RegionalPresetRun(m_session.state, m_session.random, m_type.roles, stationCount(),
                       m_type.presets.avionicsLoad)
         .run(preset);
+    afterLoadChange();
+}
+
+void RegionalLoadForm::afterLoadChange()
+{
     showPresetLoad();
     runSummary();
 }

@@ -53,6 +53,7 @@ protected:
     void setUpType();
     // Shows the load a preset has left, before the summary runs.
     virtual void showPresetLoad() { redraw(); }
+    void afterLoadChange() override;
 
 private:
     template <class Preset>

@@ -72,6 +72,7 @@ void Form1::refresh()
     if (const AircraftType* type = findAircraftType(Combo1.text())) {
         PicDHC.file = m_session.picture(type->picture);
         if (LoadForm* form = selectedForm()) {
+            form->keepHistoryFor(Combo1.text());
             form->Form_Load();
             form->mnuload_Click();
             form->runSummary();

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "load/LoadHistory.h"
 #include "load/Session.h"
 #include "load/Summary.h"
+#include "platform/Result.h"
 #include "shell/FormLayout.h"
 
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quillet {
@@ -37,6 +41,9 @@ public:
     virtual void mnusave_Click() = 0;
     // Closing: the summary on this form, the main window's refresh, and the main window again.
     virtual void Form_Unload();
+    // Whether the form may close: with unsaved changes the user is asked whether to save them
+    // first. A save that fails, or "Cancel", keeps it open.
+    bool Form_QueryUnload();
 
     // The stations the keyboard walks on the form's picture, in the order it walks them: the persons
     // row by row, then the holds and containers. Empty on a form without a picture to load.
@@ -53,10 +60,48 @@ public:
 
     void runSummary() { summary(*this, m_session.state, m_session.currentType()); }
 
+    // Runs a handler as one step of the undo history; it is recorded only when the load changed.
+    // `name` names the step unless exactly one station changed, which then names it.
+    template <class Action>
+    void step(std::string_view name, Action&& action)
+    {
+        LoadSnapshot before = LoadSnapshot::of(m_session.state);
+        std::forward<Action>(action)();
+        m_history.record(name, std::move(before), LoadSnapshot::of(m_session.state));
+    }
+    // Put the load before (after) the last undone step back and show it; false when there is none.
+    bool undo();
+    bool redo();
+    std::string undoName() const { return m_history.undoName(); }
+    std::string redoName() const { return m_history.redoName(); }
+    // Starts a new history when the form is set up for another type than before.
+    void keepHistoryFor(const std::string& type);
+    // Whether the load differs from the one last read or saved.
+    bool modified() const { return m_history.differsFromStored(LoadSnapshot::of(m_session.state)); }
+
+    // Counts the successful saves, so that a window can tell one has happened, and when.
+    int saves() const { return m_saves; }
+    const TimeOfDay& savedAt() const { return m_savedAt; }
+
     bool visible = false;
 
 protected:
+    // The reader and writer of the aircraft file interface; what they succeed in is the load that
+    // counts as saved.
+    Status read();
+    Status save();
+    // Shows a load the history put back: the form's checks and drawing, and the summary.
+    virtual void afterLoadChange() = 0;
+
     Session& m_session;
+
+private:
+    void show(const LoadSnapshot* load);
+
+    LoadHistory m_history;
+    std::string m_historyType;
+    int m_saves = 0;
+    TimeOfDay m_savedAt;
 };
 
 } // namespace quillet

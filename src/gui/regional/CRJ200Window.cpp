@@ -13,7 +13,7 @@ CRJ200Window::CRJ200Window(CRJ200& form, Application& app) : RegionalLoadWindow(
     PictureBox* map = pictureBox(layout.cabinName, layout.cabin, QStringLiteral("Seat map"));
     map->setCanvas(dynamic_cast<QtCanvas*>(&form.Picture2()));
     map->onMouseDown = [this, &form](Qt::MouseButton button, double x, double y) {
-        m_app.handle([&form, button, x, y] { form.Picture2_MouseDown(buttonNumber(button), 0, x, y); });
+        forward("Click", [&form, button, x, y] { form.Picture2_MouseDown(buttonNumber(button), 0, x, y); });
     };
     map->onMouseMove = [this, &form](Qt::MouseButtons, double x, double y) {
         m_app.handle([&form, x, y] { form.Picture2_MouseMove(0, 0, x, y); });

@@ -6,8 +6,6 @@
 #include "regional/RegionalLoadForm.h"
 #include "shell/Application.h"
 
-#include <QMenuBar>
-
 namespace quillet {
 
 RegionalLoadWindow::RegionalLoadWindow(RegionalLoadForm& form, Application& app)
@@ -16,7 +14,6 @@ RegionalLoadWindow::RegionalLoadWindow(RegionalLoadForm& form, Application& app)
     const RegionalType& type = form.type();
     const RegionalLayout& layout = type.layout;
     setObjectName(latin(type.form));
-    setWindowTitle(latin(type.caption));
     setAccessibleName(latin(type.caption));
     buildMenus();
 
@@ -40,23 +37,19 @@ PictureBox* RegionalLoadWindow::pictureBox(std::string_view name, const TwipsRec
 void RegionalLoadWindow::buildMenus()
 {
     const RegionalMenus& menus = m_regionalForm.type().menus;
-    const auto item = [this](QMenu* menu, const MenuItem& entry, void (RegionalLoadForm::*handler)()) {
-        addMenuItem(menu, entry,
-                    [this, handler] { m_app.handle([this, handler] { (m_regionalForm.*handler)(); }); });
-    };
-    QMenu* file = menuBar()->addMenu(latin(menus.mnufile.caption));
-    file->setObjectName(latin(menus.mnufile.name));
-    item(file, menus.mnuload, &RegionalLoadForm::mnuload_Click);
-    item(file, menus.mnusave, &RegionalLoadForm::mnusave_Click);
-    QMenu* presets = menuBar()->addMenu(latin(menus.mnuauto.caption));
-    presets->setObjectName(latin(menus.mnuauto.name));
-    item(presets, menus.mnulight, &RegionalLoadForm::mnulight_Click);
-    item(presets, menus.mnumed, &RegionalLoadForm::mnumed_Click);
-    item(presets, menus.mnuheav, &RegionalLoadForm::mnuheav_Click);
+    RegionalLoadForm& form = m_regionalForm;
+    LoadFormWindow::buildMenus({{menus.mnufile,
+                                 {{menus.mnuload, [&form] { form.mnuload_Click(); }},
+                                  {menus.mnusave, [&form] { form.mnusave_Click(); }}}},
+                                {menus.mnuauto,
+                                 {{menus.mnulight, [&form] { form.mnulight_Click(); }},
+                                  {menus.mnumed, [&form] { form.mnumed_Click(); }},
+                                  {menus.mnuheav, [&form] { form.mnuheav_Click(); }}}}});
 }
 
 void RegionalLoadWindow::sync()
 {
+    showTitle(latin(m_regionalForm.type().caption));
     showPhoto(m_photo, m_regionalForm.photo);
     m_summary->sync(m_regionalForm.labels);
 }

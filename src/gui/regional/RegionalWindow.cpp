@@ -83,7 +83,7 @@ RegionalWindow::RegionalWindow(RegionalForm& form, Application& app)
     for (std::size_t i = 0; i < form.location.size(); ++i) {
         const int station = static_cast<int>(i);
         auto* spot = new HotSpotLabel(cabin, [this, station] {
-            m_app.handle([this, station] { m_regional.location_Click(station); });
+            forward("Click", [this, station] { m_regional.location_Click(station); });
         });
         spot->setObjectName(QStringLiteral("location(%1)").arg(station));
         // Its tool tip, read as the description, tells the station's load.

@@ -6,24 +6,13 @@
 #include "platform/Twips.h"
 #include "shell/DeckForm.h"
 
-#include <QMenuBar>
-
 namespace quillet {
 
 DeckWindow::DeckWindow(DeckForm& form, Application& app, const DeckWindowShape& shape)
     : LoadFormWindow(form, app), m_deckForm(form)
 {
     setObjectName(latin(shape.formName));
-    for (const DeckWindowShape::Menu& entry : shape.menus) {
-        QMenu* menu = menuBar()->addMenu(latin(entry.menu.caption));
-        menu->setObjectName(latin(entry.menu.name));
-        for (const DeckWindowShape::Item& item : entry.items) {
-            if (!item.handler)
-                menu->addSeparator()->setObjectName(latin(item.item.name));
-            else
-                addMenuItem(menu, item.item, [this, handler = item.handler] { m_app.handle(handler); });
-        }
-    }
+    buildMenus(shape.menus);
 
     auto* client = new QWidget(this);
     client->setFixedSize(twipsRect(0, 0, shape.layout.clientWidth, shape.layout.clientHeight).size());
@@ -35,7 +24,8 @@ DeckWindow::DeckWindow(DeckForm& form, Application& app, const DeckWindowShape& 
     place(m_decks, shape.layout.Picture1);
     m_decks->setCanvas(dynamic_cast<QtCanvas*>(&form.Picture1()));
     m_decks->onMouseDown = [this](Qt::MouseButton button, double x, double y) {
-        m_app.handle([this, button, x, y] { m_deckForm.Picture1_MouseDown(buttonNumber(button), 0, x, y); });
+        forward("Click",
+                [this, button, x, y] { m_deckForm.Picture1_MouseDown(buttonNumber(button), 0, x, y); });
     };
     m_decks->onMouseMove = [this](Qt::MouseButtons, double x, double y) {
         m_app.handle([this, x, y] { m_deckForm.Picture1_MouseMove(0, 0, x, y); });
@@ -53,7 +43,7 @@ DeckWindow::DeckWindow(DeckForm& form, Application& app, const DeckWindowShape& 
 
 void DeckWindow::sync()
 {
-    setWindowTitle(toQString(m_deckForm.caption));
+    showTitle(toQString(m_deckForm.caption));
     showPhoto(m_photo, m_deckForm.photo);
     m_summary->sync(m_deckForm.labels);
 }

@@ -4,7 +4,6 @@
 #include "shell/LoadFormWindow.h"
 #include "shell/SummaryPanel.h"
 
-#include <functional>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -16,21 +15,12 @@ class DeckForm;
 class PictureBox;
 
 // What a deck window is made of: where it places its controls, what its deck picture is named on the
-// accessibility bus, and its menus. An item without a handler is a separator.
+// accessibility bus, and its menus.
 struct DeckWindowShape {
-    struct Item {
-        MenuItem item;
-        std::function<void()> handler;
-    };
-    struct Menu {
-        MenuItem menu;
-        std::vector<Item> items;
-    };
-
     std::string_view formName;
     const DeckLayout& layout;
     std::string_view decksDescription;
-    std::vector<Menu> menus;
+    std::vector<LoadFormWindow::Menu> menus;
 };
 
 // The window of a deck form: the decks drawn by the form, which take the mouse, the aircraft's

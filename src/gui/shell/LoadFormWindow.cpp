@@ -1,29 +1,66 @@
 #include "LoadFormWindow.h"
 
 #include "Application.h"
+#include "SummaryPanel.h"
 #include "platform/PictureBox.h"
 #include "platform/StationFocus.h"
+#include "platform/Twips.h"
 #include "platform/Widgets.h"
 #include "shell/LoadForm.h"
 
+#include <QAction>
 #include <QCloseEvent>
+#include <QMenuBar>
+#include <QShortcut>
 
 namespace quillet {
 
-LoadFormWindow::LoadFormWindow(LoadForm& form, Application& app) : m_form(form), m_app(app) {}
+namespace {
+
+// A step's name in a menu caption, where "&" would mark a shortcut letter.
+QString menuText(const QString& caption, const std::string& step)
+{
+    if (step.empty())
+        return caption;
+    return caption + ' ' + toQString(step).replace('&', QStringLiteral("&&"));
+}
+
+} // namespace
+
+LoadFormWindow::LoadFormWindow(LoadForm& form, Application& app) : m_form(form), m_app(app)
+{
+    m_shownSaves = form.saves();
+    m_savedNote.setSingleShot(true);
+    m_savedNote.setInterval(kSavedNoteMilliseconds);
+    connect(&m_savedNote, &QTimer::timeout, this, [this] { sync(); });
+
+    // Escape and Ctrl+W close the form as its close button does.
+    for (const QKeySequence& keys : {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)})
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
+}
 
 void LoadFormWindow::closeEvent(QCloseEvent* event)
 {
-    // Closing is never refused; the form stays made for the rest of the run.
-    if (m_form.visible)
-        m_app.handle([this] { m_form.Form_Unload(); });
-    event->accept();
+    // Closing can be refused only by the user, when asked about an unsaved load; the form stays
+    // made for the rest of the run.
+    bool closes = true;
+    if (m_form.visible) {
+        m_app.handle([this, &closes] {
+            closes = m_form.Form_QueryUnload();
+            if (closes)
+                m_form.Form_Unload();
+        });
+    }
+    if (closes)
+        event->accept();
+    else
+        event->ignore();
 }
 
 void LoadFormWindow::loadByKeyboard(PictureBox* picture)
 {
-    new StationFocus(picture, m_form,
-                     [this](const std::function<void()>& handler) { m_app.handle(handler); });
+    // A press is a click: one step of the undo history like any other.
+    new StationFocus(picture, m_form, [this](const std::function<void()>& handler) { forward("Click", handler); });
 }
 
 void LoadFormWindow::showPhoto(PictureBox* box, const std::filesystem::path& file)
@@ -33,6 +70,65 @@ void LoadFormWindow::showPhoto(PictureBox* box, const std::filesystem::path& fil
         return;
     m_shownPhoto = shown;
     box->setPicture(loadPicture(file, m_app.session().messages));
+}
+
+void LoadFormWindow::buildMenus(const std::vector<Menu>& menus)
+{
+    QMenu* file = nullptr;
+    for (const Menu& entry : menus) {
+        QMenu* menu = menuBar()->addMenu(latin(entry.menu.caption));
+        menu->setObjectName(latin(entry.menu.name));
+        if (!file)
+            file = menu;
+        for (const MenuEntry& item : entry.items) {
+            if (!item.handler) {
+                menu->addSeparator()->setObjectName(latin(item.item.name));
+                continue;
+            }
+            QString step = latin(item.item.caption).remove('&');
+            QAction* action = addMenuItem(menu, item.item, [this, step, handler = item.handler] {
+                forward(step.toStdString(), handler);
+            });
+            if (item.item.name == "mnusave")
+                action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+        }
+    }
+    if (!file)
+        return;
+    file->addSeparator();
+    m_undo = addMenuItem(file, {"mnuundo", "&Undo"}, [this] { m_app.handle([this] { m_form.undo(); }); });
+    m_undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+    m_redo = addMenuItem(file, {"mnuredo", "&Redo"}, [this] { m_app.handle([this] { m_form.redo(); }); });
+    m_redo->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+}
+
+void LoadFormWindow::forward(std::string_view name, std::function<void()> handler)
+{
+    m_app.handle(
+        [this, name = std::string(name), handler = std::move(handler)] { m_form.step(name, handler); });
+}
+
+void LoadFormWindow::showTitle(const QString& caption)
+{
+    if (m_form.saves() != m_shownSaves) {
+        m_shownSaves = m_form.saves();
+        m_savedNote.start();
+    }
+    QString title = caption + QStringLiteral("[*]");
+    if (m_savedNote.isActive())
+        title += QStringLiteral(" - saved at ") + toQString(formatTime(m_form.savedAt()));
+    setWindowTitle(title);
+    setWindowModified(m_form.visible && m_form.modified());
+
+    if (m_undo) {
+        const std::string undo = m_form.undoName();
+        const std::string redo = m_form.redoName();
+        m_undo->setText(menuText(QStringLiteral("&Undo"), undo));
+        m_undo->setEnabled(!undo.empty());
+        m_redo->setText(menuText(QStringLiteral("&Redo"), redo));
+        m_redo->setEnabled(!redo.empty());
+    }
 }
 
 } // namespace quillet

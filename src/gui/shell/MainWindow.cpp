@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace quillet {
 
@@ -50,6 +51,9 @@ MainWindow::MainWindow(Application& app) : m_app(app), m_form(app.form1())
     copyright->setObjectName(QStringLiteral("mnucopyright"));
     connect(copyright, &QAction::triggered, this,
             [this] { m_app.handle([this] { m_form.mnucopyright_Click(); }); });
+
+    // Ctrl+Q quits as the close button does.
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this), &QShortcut::activated, this, &QWidget::close);
 
     auto* client = new QWidget(this);
     client->setFixedSize(twipsRect(0, 0, 8460, 3510).size());

@@ -19,11 +19,12 @@ void place(QWidget* widget, const TwipsRect& rect)
     place(widget, rect.left, rect.top, rect.width, rect.height);
 }
 
-void addMenuItem(QMenu* menu, const MenuItem& item, std::function<void()> handler)
+QAction* addMenuItem(QMenu* menu, const MenuItem& item, std::function<void()> handler)
 {
     QAction* action = menu->addAction(latin(item.caption));
     action->setObjectName(latin(item.name));
     QObject::connect(action, &QAction::triggered, menu, std::move(handler));
+    return action;
 }
 
 SummaryPanel::SummaryPanel(QWidget* client, const SummaryLayout& layout, SummaryForm& form)

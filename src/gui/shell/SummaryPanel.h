@@ -6,6 +6,7 @@
 #include <functional>
 #include <string_view>
 
+class QAction;
 class QLabel;
 class QMenu;
 class QWidget;
@@ -48,6 +49,6 @@ inline QString latin(std::string_view text)
 void place(QWidget* widget, const TwipsRect& rect);
 
 // Adds a menu item with its caption and control name; choosing it runs the handler.
-void addMenuItem(QMenu* menu, const MenuItem& item, std::function<void()> handler);
+QAction* addMenuItem(QMenu* menu, const MenuItem& item, std::function<void()> handler);
 
 } // namespace quillet

@@ -26,6 +26,7 @@ public:
         m_session.state.loadweight = m_load; // as if read from its station file
     }
     void mnusave_Click() override {}
+    void afterLoadChange() override {}
     SummaryLabels& summaryLabels() override { return labels; }
     Canvas& Picture4() override { return picture4; }
     Canvas& Picture3() override { return picture3; }

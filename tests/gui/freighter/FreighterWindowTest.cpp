@@ -51,7 +51,7 @@ TEST_F(FreighterWindowGui, OpensWithItsControlsAndLoadsAContainerWithTheMouse)
     QMainWindow* window = open();
     ASSERT_NE(window, nullptr);
     EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(window->windowTitle(), "DC-10-30F");
+    EXPECT_EQ(shownTitle(window), "DC-10-30F");
     EXPECT_EQ(window->centralWidget()->size(), QSize(637, 295));
     QWidget* decks = find<QWidget>(window, "Picture1");
     EXPECT_EQ(decks->geometry(), QRect(0, 0, 633, 140));
@@ -69,7 +69,7 @@ TEST_F(FreighterWindowGui, OpensWithItsControlsAndLoadsAContainerWithTheMouse)
     }
     EXPECT_EQ(
         menus.join('|'),
-        "&File|&Re-load Configuration|&Save Configuration|&Auto Load|&Light Load|&Medium Load|&Heavy Load");
+        "&File|&Re-load Configuration|&Save Configuration||&Undo|&Redo|&Auto Load|&Light Load|&Medium Load|&Heavy Load");
 
     // Container 1L is hit at (2329, 468) twips, pixel (155, 31); its box spans pixels 141 to 177
     // across and 17 to 45 down.

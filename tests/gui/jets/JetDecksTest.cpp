@@ -111,7 +111,7 @@ TEST_F(JetDecksGui, EachTypeOpensWithClosedOutlinesAndHatchesOnlyItsHolds)
         QMainWindow* window = app->window("Boeing");
         ASSERT_NE(window, nullptr);
         EXPECT_TRUE(window->isVisible());
-        EXPECT_EQ(window->windowTitle(), deck.type);
+        EXPECT_EQ(shownTitle(window), deck.type);
         EXPECT_EQ(find<QLabel>(window, "lblpass")->text(), deck.countLine);
 
         auto& form = static_cast<Boeing&>(*app->forms().existing("Boeing"));

@@ -1,4 +1,5 @@
 #include "GuiFixture.h"
+#include "cfgfile/StationFile.h"
 #include "jets/Boeing.h"
 #include "platform/PictureBox.h"
 #include "platform/QtCanvas.h"
@@ -7,6 +8,7 @@
 #include <QAction>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 
 namespace quillet {
@@ -43,7 +45,7 @@ TEST_F(JetWindowGui, OpensOnTheB737AndLoadsASeatWithTheMouse)
     QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
     ASSERT_NE(jetWindow(), nullptr);
     EXPECT_TRUE(jetWindow()->isVisible());
-    EXPECT_EQ(jetWindow()->windowTitle(), "B737-300");
+    EXPECT_EQ(shownTitle(jetWindow()), "B737-300");
     EXPECT_EQ(jetWindow()->centralWidget()->size(), QSize(654, 325));
     QWidget* decks = find<QWidget>(jetWindow(), "Picture1");
     EXPECT_EQ(decks->geometry(), QRect(8, 0, 633, 140));
@@ -57,7 +59,7 @@ TEST_F(JetWindowGui, OpensOnTheB737AndLoadsASeatWithTheMouse)
             menus << (item->isSeparator() ? QStringLiteral("-") : item->text());
     }
     EXPECT_EQ(menus.join('|'),
-              "&File|&Re-load Configuration|&Save configuration|&Auto Load|&Empty Aircraft|-|"
+              "&File|&Re-load Configuration|&Save configuration|-|&Undo|&Redo|&Auto Load|&Empty Aircraft|-|"
               "&Light Load|&Medium Load|&Heavy Load");
 
     // Seat 1A is drawn at (3045, 854) twips: pixel (203, 56.9) of the picture.
@@ -114,7 +116,7 @@ TEST_F(JetWindowGui, TheDC8DeckIsCutAtThePictureEdgeAndTakesAHeavyLoad)
     start();
     QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
     ASSERT_NE(jetWindow(), nullptr);
-    EXPECT_EQ(jetWindow()->windowTitle(), "DC-8-71F");
+    EXPECT_EQ(shownTitle(jetWindow()), "DC-8-71F");
 
     // The tail cone leaves the picture at x = -100 ft, 2.2 ft either side of the centre line: pixel
     // rows 27 and 41 of the last columns.
@@ -134,6 +136,58 @@ TEST_F(JetWindowGui, TheDC8DeckIsCutAtThePictureEdgeAndTakesAHeavyLoad)
     QTest::mouseMove(find<QWidget>(jetWindow(), "Picture1"), QPoint(560, 34));
     QApplication::processEvents();
     EXPECT_FALSE(colours(480, 31, 540, 37).count(kGreenPixel));
+}
+
+TEST_F(JetWindowGui, EditsAreUndoneAndSavedFromTheKeyboardAndAnUnsavedLoadIsNotClosedUnasked)
+{
+    start();
+    QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
+    QMainWindow* window = jetWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    QAction* undo = window->findChild<QAction*>(QStringLiteral("mnuundo"));
+    QAction* redo = window->findChild<QAction*>(QStringLiteral("mnuredo"));
+    ASSERT_TRUE(undo && redo);
+    EXPECT_FALSE(undo->isEnabled());
+    const auto keys = [&](QKeyCombination combination) {
+        QTest::keyClick(window, combination.key(), combination.keyboardModifiers());
+        QApplication::processEvents();
+    };
+    const auto passengers = [&] { return find<QLabel>(window, "lblpass")->text(); };
+
+    window->findChild<QAction*>(QStringLiteral("mnuheav"))->trigger();
+    const QString heavy = passengers();
+    EXPECT_NE(heavy, "Passengers  0 / 128");
+    EXPECT_EQ(shownTitle(window), "B737-300*");
+    EXPECT_EQ(undo->text(), "&Undo Heavy Load");
+
+    keys(Qt::CTRL | Qt::Key_Z);
+    EXPECT_EQ(passengers(), "Passengers  0 / 128");
+    EXPECT_EQ(shownTitle(window), "B737-300");
+    EXPECT_EQ(redo->text(), "&Redo Heavy Load");
+    keys(Qt::CTRL | Qt::Key_Y);
+    EXPECT_EQ(passengers(), heavy);
+    keys(Qt::CTRL | Qt::Key_Z);
+    keys(Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+    EXPECT_EQ(passengers(), heavy);
+
+    // Escape asks; "Cancel" keeps the form open with its load.
+    prompt.answerSave(SaveChoice::Cancel);
+    keys(Qt::Key_Escape);
+    ASSERT_EQ(prompt.saveQuestions().size(), 1u);
+    EXPECT_EQ(prompt.saveQuestions()[0], "The load of the B737-300 has not been saved.\n\nSave it before closing?");
+    EXPECT_TRUE(window->isVisible());
+
+    // Ctrl+S writes the load as shown and says so for a moment.
+    keys(Qt::CTRL | Qt::Key_S);
+    EXPECT_EQ(TempDir::readFile(dir.path() / "B737-300.cfg"), stationFileText(app->session().state));
+    EXPECT_TRUE(QRegularExpression(QStringLiteral("^B737-300 - saved at \\d\\d:\\d\\d$")).match(shownTitle(window)).hasMatch())
+        << shownTitle(window).toStdString();
+
+    // Saved, Ctrl+W closes without a question.
+    keys(Qt::CTRL | Qt::Key_W);
+    EXPECT_EQ(prompt.saveQuestions().size(), 1u);
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(main()->isVisible());
 }
 
 } // namespace

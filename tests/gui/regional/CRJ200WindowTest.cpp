@@ -42,7 +42,7 @@ TEST_F(CRJ200WindowGui, EveryElementIsWhereTheFormPutsIt)
 {
     ASSERT_NE(window(), nullptr);
     EXPECT_TRUE(window()->isVisible());
-    EXPECT_EQ(window()->windowTitle(), "Quillet - Bombardier CRJ-200ER");
+    EXPECT_EQ(shownTitle(window()), "Quillet - Bombardier CRJ-200ER");
     EXPECT_EQ(window()->accessibleName(), "Quillet - Bombardier CRJ-200ER");
     EXPECT_EQ(window()->centralWidget()->size(), QSize(659, 262)); // 9885 x 3930 twips
 

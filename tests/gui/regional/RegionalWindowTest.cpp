@@ -32,7 +32,7 @@ TEST_F(RegionalWindowGui, LoadASeatSaveAndClose)
     ASSERT_NE(beechWindow(), nullptr);
     EXPECT_TRUE(beechWindow()->isVisible());
     EXPECT_FALSE(main()->isVisible());
-    EXPECT_EQ(beechWindow()->windowTitle(), "Quillet - Beech 1900D");
+    EXPECT_EQ(shownTitle(beechWindow()), "Quillet - Beech 1900D");
 
     QWidget* seat = find<QWidget>(beechWindow(), "location(3)");
     EXPECT_EQ(seat->toolTip(), "Empty");

@@ -55,7 +55,7 @@ void expectWindow(QWidget* window, QAccessible::Role role, const QString& title)
     ASSERT_NE(window, nullptr);
     SCOPED_TRACE(title.toStdString());
     EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(window->windowTitle(), title);
+    EXPECT_EQ(shownTitle(window), title);
     EXPECT_EQ(accessibleRole(window), role) << "a frame is role Window, a dialog Dialog; Client is a filler";
     EXPECT_EQ(accessibleName(window), title);
 }
@@ -85,7 +85,7 @@ TEST_F(AccessibilityGui, EveryWindowIsAFrameOrADialogNamedByItsTitle)
         const QAccessible::Role role = accessibleRole(window);
         EXPECT_TRUE(role == QAccessible::Window || role == QAccessible::Dialog)
             << window->objectName().toStdString();
-        EXPECT_EQ(accessibleName(window), window->windowTitle());
+        EXPECT_EQ(accessibleName(window), shownTitle(window));
     }
 }
 

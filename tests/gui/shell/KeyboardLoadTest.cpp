@@ -152,6 +152,10 @@ TEST_F(KeyboardLoad, AScreenReaderReadsTheDecksStationByStationAndPressesOne)
     ASSERT_EQ(prompt.asked().size(), 1u);
     EXPECT_EQ(prompt.asked()[0].prompt, "Passenger 12C weight in lbs");
 
+    // A press is undone like a click.
+    window->findChild<QAction*>("mnuundo")->trigger();
+    EXPECT_EQ(station->text(QAccessible::Name), "Passenger 12C, empty");
+
     // The keyboard goes on from where the screen reader left the focus.
     QTest::keyClick(decks, Qt::Key_Right);
     EXPECT_EQ(picture->focusChild()->text(QAccessible::Name), "Passenger 12D, empty");
