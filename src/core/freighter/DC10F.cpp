@@ -260,6 +260,37 @@ StationGroups DC10F::stationGroups() const
     return groups;
 }
 
+std::vector<FocusStation> DC10F::focusStations() const
+{
+    const LoadState& state = m_session.state;
+    const double scale = deckscale;
+    const int end = markedStations();
+    const int containers = std::min({clampedTo(state.ncargo, kContainerBoxCapacity), end});
+    std::vector<FocusStation> stations;
+    for (int i = containers; i < end; ++i) {
+        const double x = state.stationpx[i];
+        const double y = state.stationpy[i];
+        stations.push_back(
+            {i,
+             x,
+             y,
+             {static_cast<int>(x - kCrewHit), static_cast<int>(y - kCrewHit), 2 * kCrewHit, 2 * kCrewHit}});
+    }
+    orderInRows(stations, state);
+    // A container's mark is its drawn box, a little aft of the point a click takes.
+    for (int i = 0; i < containers; ++i) {
+        const auto& box = state.containerbox[i];
+        const double left = (kDrawX0 - state.stationx[i] - box[2] / 2.0) * scale;
+        const double top = (box[1] - box[3] / 2.0) * scale;
+        stations.push_back({i,
+                            static_cast<double>(state.stationpx[i]),
+                            static_cast<double>(state.stationpy[i]),
+                            {static_cast<int>(left), static_cast<int>(top), static_cast<int>(box[2] * scale),
+                             static_cast<int>(box[3] * scale)}});
+    }
+    return stations;
+}
+
 void DC10F::Picture1_MouseMove(int, int, double X, double Y)
 {
     redraw();

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace quillet {
 
@@ -29,6 +30,7 @@ public:
     void mnuheav_Click();
     void Picture1_MouseDown(int Button, int Shift, double X, double Y) override;
     void Picture1_MouseMove(int Button, int Shift, double X, double Y) override;
+    std::vector<FocusStation> focusStations() const override;
 
     void redraw();
     void nopass() override;

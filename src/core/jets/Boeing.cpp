@@ -238,6 +238,28 @@ void Boeing::Picture1_MouseDown(int Button, int, double X, double Y)
     runSummary();
 }
 
+std::vector<FocusStation> Boeing::focusStations() const
+{
+    const LoadState& state = m_session.state;
+    // The focus mark outlines what a click hits.
+    const auto around = [&](int i, double half) {
+        const double x = state.stationpx[i];
+        const double y = state.stationpy[i];
+        return FocusStation{i,
+                            x,
+                            y,
+                            {static_cast<int>(x - half), static_cast<int>(y - half),
+                             static_cast<int>(2 * half), static_cast<int>(2 * half)}};
+    };
+    std::vector<FocusStation> stations;
+    for (int i = 0; i < personCount(); ++i)
+        stations.push_back(around(i, kPersonHit));
+    orderInRows(stations, state);
+    for (int i = personCount(); i < cargoEnd(); ++i)
+        stations.push_back(around(i, kCargoHit));
+    return stations;
+}
+
 void Boeing::Picture1_MouseMove(int, int, double X, double Y)
 {
     redraw();

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quillet {
 
@@ -31,6 +32,7 @@ public:
     void mnuheav_Click();
     void Picture1_MouseDown(int Button, int Shift, double X, double Y) override;
     void Picture1_MouseMove(int Button, int Shift, double X, double Y) override;
+    std::vector<FocusStation> focusStations() const override;
 
     void redraw();
     void nopass() override;

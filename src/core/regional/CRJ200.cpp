@@ -180,6 +180,33 @@ void CRJ200::Picture2_MouseDown(int Button, int Shift, double X, double Y)
     runSummary();
 }
 
+std::vector<FocusStation> CRJ200::focusStations() const
+{
+    const LoadState& state = m_session.state;
+    // The focus mark outlines what a click hits.
+    const auto around = [&](int i, double halfLength, double halfWidth) {
+        const double x = state.stationpx[i];
+        const double y = state.stationpy[i];
+        return FocusStation{i,
+                            x,
+                            y,
+                            {static_cast<int>(x - halfLength), static_cast<int>(y - halfWidth),
+                             static_cast<int>(2 * halfLength), static_cast<int>(2 * halfWidth)}};
+    };
+    std::vector<FocusStation> stations;
+    for (int i = 0; i <= lastPerson(); ++i)
+        stations.push_back(around(i, kPersonReach, kPersonReach));
+    orderInRows(stations, state);
+    if (holdInUse())
+        stations.push_back(around(kHold, kHoldHalfLength, kHoldHalfWidth));
+    return stations;
+}
+
+void CRJ200::pressStation(const FocusStation& station, int Button)
+{
+    Picture2_MouseDown(Button, 0, station.x, station.y);
+}
+
 void CRJ200::Picture2_MouseMove(int /*Button*/, int /*Shift*/, double X, double Y)
 {
     const LoadState& state = m_session.state;

@@ -3,6 +3,7 @@
 #include "RegionalLoadForm.h"
 
 #include <memory>
+#include <vector>
 
 namespace quillet {
 
@@ -29,6 +30,8 @@ public:
     // X and Y in twips of the seat map; Shift is not used.
     void Picture2_MouseDown(int Button, int Shift, double X, double Y);
     void Picture2_MouseMove(int Button, int Shift, double X, double Y);
+    std::vector<FocusStation> focusStations() const override;
+    void pressStation(const FocusStation& station, int Button) override;
 
     // Clears the seat map and draws a dot on every loaded station, the hold included.
     void redraw() override;

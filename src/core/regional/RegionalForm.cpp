@@ -72,6 +72,28 @@ void RegionalForm::location_Click(int index)
     runSummary();
 }
 
+std::vector<FocusStation> RegionalForm::focusStations() const
+{
+    const StationRoles& roles = type().roles;
+    std::vector<FocusStation> persons;
+    std::vector<FocusStation> holds;
+    for (int i = 0; i < stationCount(); ++i) {
+        const TwipsRect& spot = location[static_cast<std::size_t>(i)].rect;
+        (i == roles.hold || i == roles.avionics ? holds : persons)
+            .push_back({i, spot.centreX(), spot.centreY(), spot});
+    }
+    orderInRows(persons, m_session.state);
+    orderInRows(holds, m_session.state);
+    persons.insert(persons.end(), holds.begin(), holds.end());
+    return persons;
+}
+
+void RegionalForm::pressStation(const FocusStation& station, int Button)
+{
+    if (Button == 1)
+        location_Click(station.station);
+}
+
 void RegionalForm::Form_LostFocus()
 {
     if (type().refreshesMainOnLostFocus)

@@ -50,6 +50,9 @@ public:
     void Form_Load() override;
     void location_Click(int index);
     void Form_LostFocus();
+    std::vector<FocusStation> focusStations() const override;
+    // A hot spot takes the left button only.
+    void pressStation(const FocusStation& station, int Button) override;
 
     // Brings every hot spot and marker in line with the station weights.
     void redraw() override;

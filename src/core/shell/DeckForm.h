@@ -36,6 +36,11 @@ public:
 
     virtual void Picture1_MouseDown(int Button, int Shift, double X, double Y) = 0;
     virtual void Picture1_MouseMove(int Button, int Shift, double X, double Y) = 0;
+    // A press on a station is a click on its point of the decks.
+    void pressStation(const FocusStation& station, int Button) override
+    {
+        Picture1_MouseDown(Button, 0, station.x, station.y);
+    }
 
 private:
     std::unique_ptr<Canvas> m_picture1;

@@ -6,12 +6,25 @@
 #include "load/StationGroups.h"
 #include "load/Summary.h"
 #include "platform/Result.h"
+#include "shell/FormLayout.h"
 
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace quillet {
+
+// A station the keyboard reaches on a form's picture (its cabin or decks).
+struct FocusStation {
+    int station = 0; // in the load state
+    double x = 0;    // where a click on it lands, twips of the picture
+    double y = 0;
+    TwipsRect mark; // what the focus mark outlines, twips of the picture
+};
+
+// Persons row by row from the nose, each row from its left seat: the order the keyboard walks them.
+void orderInRows(std::vector<FocusStation>& persons, const LoadState& state);
 
 // A load form: the window on which one aircraft type's stations are loaded. It is set up without
 // being shown whenever the main window refreshes, and shown by "Adjust".
@@ -33,6 +46,19 @@ public:
     // Whether the form may close: with unsaved changes the user is asked whether to save them
     // first. A save that fails, or "Cancel", keeps it open.
     bool Form_QueryUnload();
+
+    // The stations the keyboard walks on the form's picture, in the order it walks them: the persons
+    // row by row, then the holds and containers. Empty on a form without a picture to load.
+    virtual std::vector<FocusStation> focusStations() const { return {}; }
+    // What a click of Button (1 left, 2 right) on the station does; it goes through the form's own
+    // click handler, so that keyboard and mouse never differ.
+    virtual void pressStation(const FocusStation& station, int Button)
+    {
+        static_cast<void>(station);
+        static_cast<void>(Button);
+    }
+    // A station as a screen reader names it: "Passenger 12C, 170 lb", "Lower Deck Cargo Aft, empty".
+    std::string spokenStation(int station) const;
 
     void runSummary() { summary(*this, m_session.state, m_session.currentType()); }
 

@@ -1,5 +1,6 @@
 #include "Accessibility.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QWidget>
 
@@ -17,6 +18,18 @@ void nameForScreenReaders(QWidget* control, const QString& name, const QString& 
         control->setAccessibleName(name);
     if (!description.isEmpty())
         control->setAccessibleDescription(description);
+}
+
+void announce(QWidget* source, const QString& text)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent event(source, text);
+    QAccessible::updateAccessibility(&event);
+#else
+    // A label reports its new text as a name change itself; older Qt can say no more.
+    static_cast<void>(source);
+    static_cast<void>(text);
+#endif
 }
 
 } // namespace quillet

@@ -26,4 +26,8 @@ void nameForScreenReaders(QWidget* control, QLabel* label);
 //     nameForScreenReaders(cabin, "Cabin of the Beech 1900D", "Click a seat or a hold to load or empty it");
 void nameForScreenReaders(QWidget* control, const QString& name, const QString& description = {});
 
+// Has screen readers say a text that changed away from the focus, such as a new total. Qt before 6.8
+// has no announcement: there the label's own name change is all a screen reader gets.
+void announce(QWidget* source, const QString& text);
+
 } // namespace quillet

@@ -18,6 +18,7 @@ CRJ200Window::CRJ200Window(CRJ200& form, Application& app) : RegionalLoadWindow(
     map->onMouseMove = [this, &form](Qt::MouseButtons, double x, double y) {
         m_app.handle([&form, x, y] { form.Picture2_MouseMove(0, 0, x, y); });
     };
+    loadByKeyboard(map);
 
     sync();
 }

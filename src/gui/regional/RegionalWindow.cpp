@@ -91,6 +91,7 @@ RegionalWindow::RegionalWindow(RegionalForm& form, Application& app)
         place(spot, form.location[i].rect);
         m_hotSpots.push_back(spot);
     }
+    loadByKeyboard(cabin);
 
     sync();
 }

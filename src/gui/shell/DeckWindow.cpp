@@ -30,6 +30,7 @@ DeckWindow::DeckWindow(DeckForm& form, Application& app, const DeckWindowShape& 
     m_decks->onMouseMove = [this](Qt::MouseButtons, double x, double y) {
         m_app.handle([this, x, y] { m_deckForm.Picture1_MouseMove(0, 0, x, y); });
     };
+    loadByKeyboard(m_decks);
 
     m_photo = new PictureBox(client);
     m_photo->setObjectName(QStringLiteral("Picture2"));

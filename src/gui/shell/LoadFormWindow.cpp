@@ -4,6 +4,7 @@
 #include "TargetDialog.h"
 #include "SummaryPanel.h"
 #include "platform/PictureBox.h"
+#include "platform/StationFocus.h"
 #include "platform/Twips.h"
 #include "platform/Widgets.h"
 #include "shell/LoadForm.h"
@@ -62,6 +63,12 @@ void LoadFormWindow::showEvent(QShowEvent* event)
 {
     fitOnScreen(this);
     QMainWindow::showEvent(event);
+}
+
+void LoadFormWindow::loadByKeyboard(PictureBox* picture)
+{
+    // A press is a click: one step of the undo history like any other.
+    new StationFocus(picture, m_form, [this](const std::function<void()>& handler) { forward("Click", handler); });
 }
 
 void LoadFormWindow::showPhoto(PictureBox* box, const std::filesystem::path& file)

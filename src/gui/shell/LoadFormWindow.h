@@ -63,6 +63,8 @@ protected:
     // The caption, the mark of an unsaved load, and for a moment after a save the time it was saved;
     // with the undo and redo items, which name their steps.
     void showTitle(const QString& caption);
+    // Lets the keyboard and screen readers load the form's stations on its cabin or decks.
+    void loadByKeyboard(PictureBox* picture);
 
     LoadForm& m_form;
     Application& m_app;

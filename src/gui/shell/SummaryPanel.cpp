@@ -87,6 +87,9 @@ QLabel* SummaryPanel::label(QWidget* client, const char* name, const TwipsRect& 
 
 void SummaryPanel::sync(const SummaryLabels& labels)
 {
+    // A load changed away from these labels (on the cabin, by a preset): say the new total and warning.
+    const QString total = m_lbltot->text();
+    const QString warning = m_warning->isVisibleTo(m_warning->parentWidget()) ? m_warning->text() : QString();
     showState(m_lblbow, labels.lblbow);
     showState(m_lblpax, labels.lblpax);
     showState(m_lblmf, labels.lblmf);
@@ -95,6 +98,10 @@ void SummaryPanel::sync(const SummaryLabels& labels)
     showState(m_lblpass, labels.lblpass);
     showState(m_lblmaxtow, labels.lblmaxtow);
     showState(m_lblmaxfuel, labels.lblmaxfuel);
+    if (m_lbltot->text() != total)
+        announce(m_lbltot, m_lbltot->text());
+    if (labels.warning.visible && m_warning->text() != warning)
+        announce(m_warning, m_warning->text());
 }
 
 } // namespace quillet
