@@ -46,6 +46,8 @@ public:
     void Picture1_MouseMove(int Button, int Shift, double X, double Y);
 
     void redraw();
+    Canvas* deckPicture() override { return &Picture1(); }
+    void drawDeck(Canvas& picture) override;
     void nopass() override;
     void cargocheck();
 

@@ -49,6 +49,8 @@ public:
     void Picture1_MouseMove(int Button, int Shift, double X, double Y);
 
     void redraw();
+    Canvas* deckPicture() override { return &Picture1(); }
+    void drawDeck(Canvas& picture) override;
     void nopass() override;
     void cargocheck();
 
@@ -69,7 +71,7 @@ private:
     int cargoEnd() const;
     bool isLowerCargo(int station) const;
     void placeStations();
-    void fillPass();
+    void fillPass(Canvas& picture);
     void preset(Seating seating, PresetFactors factors);
     int drawSeat(int seats, bool wantOccupied);
 

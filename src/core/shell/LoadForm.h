@@ -34,6 +34,12 @@ public:
     // does.
     void applyPlan(const Plan& plan);
 
+    // The picture that shows the deck or cabin (none on a form without one), and the drawing of it
+    // with the loaded stations marked, on that picture or on any other of the same size in twips:
+    // the load sheet draws it again at the printer's resolution.
+    virtual Canvas* deckPicture() { return nullptr; }
+    virtual void drawDeck(Canvas& /*picture*/) {}
+
     bool visible = false;
 
 protected:

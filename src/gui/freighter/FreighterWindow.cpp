@@ -58,6 +58,7 @@ void FreighterWindow::buildMenus()
     item(presets, dc10f::kMnumed, &DC10F::mnumed_Click);
     item(presets, dc10f::kMnuheav, &DC10F::mnuheav_Click);
     addTargetItem(presets);
+    addSheetItem(file);
 }
 
 void FreighterWindow::sync()

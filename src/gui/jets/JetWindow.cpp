@@ -60,6 +60,7 @@ void JetWindow::buildMenus()
     item(presets, boeing::kMnumed, &Boeing::mnumed_Click);
     item(presets, boeing::kMnuheav, &Boeing::mnuheav_Click);
     addTargetItem(presets);
+    addSheetItem(file);
 }
 
 void JetWindow::sync()

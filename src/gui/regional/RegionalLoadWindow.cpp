@@ -54,6 +54,7 @@ void RegionalLoadWindow::buildMenus()
     item(presets, menus.mnumed, &RegionalLoadForm::mnumed_Click);
     item(presets, menus.mnuheav, &RegionalLoadForm::mnuheav_Click);
     addTargetItem(presets);
+    addSheetItem(file);
 }
 
 void RegionalLoadWindow::sync()

@@ -1,14 +1,22 @@
 #include "LoadFormWindow.h"
 
 #include "Application.h"
+#include "LoadSheetPrint.h"
 #include "TargetDialog.h"
+#include "load/LoadSheet.h"
 #include "platform/PictureBox.h"
 #include "platform/Widgets.h"
 #include "shell/LoadForm.h"
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
 #include <QMenu>
+#include <QMessageBox>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QToolBar>
 
 namespace quillet {
 
@@ -50,6 +58,54 @@ void LoadFormWindow::loadToTarget()
             m_app.handle([this, applied = *plan] { m_form.applyPlan(applied); });
     });
     dialog->open();
+}
+
+void LoadFormWindow::addSheetItem(QMenu* file)
+{
+    file->addSeparator()->setObjectName(QStringLiteral("mnusheetline"));
+    QAction* action = file->addAction(QStringLiteral("Load &Sheet..."));
+    action->setObjectName(QStringLiteral("mnusheet"));
+    action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_P));
+    connect(action, &QAction::triggered, this, &LoadFormWindow::showLoadSheet);
+}
+
+LoadSheet LoadFormWindow::loadSheet() const
+{
+    const Session& session = m_app.session();
+    return makeLoadSheet(session.state, m_form.stationGroups(), session.currentType(), session.clock.today());
+}
+
+void LoadFormWindow::showLoadSheet()
+{
+    auto* printer = new QPrinter(QPrinter::HighResolution);
+    auto* preview = new QPrintPreviewDialog(printer, this);
+    preview->setObjectName(QStringLiteral("LoadSheetPreview"));
+    preview->setWindowTitle(QStringLiteral("Load Sheet"));
+    preview->setAttribute(Qt::WA_DeleteOnClose);
+    connect(preview, &QObject::destroyed, this, [printer] { delete printer; });
+    // The sheet is laid out afresh for every page set-up the preview asks for.
+    connect(preview, &QPrintPreviewDialog::paintRequested, this,
+            [this](QPrinter* device) { paintLoadSheet(*device, loadSheet(), m_form); });
+    if (auto* tools = preview->findChild<QToolBar*>()) {
+        tools->addSeparator();
+        QAction* save = tools->addAction(QStringLiteral("Save as PDF..."));
+        save->setObjectName(QStringLiteral("mnusheetpdf"));
+        connect(save, &QAction::triggered, this, [this, preview] { saveLoadSheet(preview); });
+    }
+    preview->open();
+}
+
+void LoadFormWindow::saveLoadSheet(QWidget* parent)
+{
+    const LoadSheet sheet = loadSheet();
+    const QString offered = QDir(QDir::homePath()).filePath(QString::fromStdString(sheet.fileName));
+    const QString file = QFileDialog::getSaveFileName(parent, QStringLiteral("Save as PDF"), offered,
+                                                      QStringLiteral("PDF files (*.pdf)"));
+    if (file.isEmpty())
+        return;
+    if (!saveLoadSheetPdf(file, sheet, m_form))
+        QMessageBox::warning(parent, QStringLiteral("Save as PDF"),
+                             QStringLiteral("The load sheet could not be written to %1.").arg(file));
 }
 
 } // namespace quillet
