@@ -17,14 +17,15 @@ namespace quillet {
 // windows do. Without an aircraft folder the reader only reports, and the set-up's table stays.
 class BenchSession {
 public:
-    explicit BenchSession(std::string type)
+    // `pixelRatio`: the screen's device pixel ratio the canvases draw at.
+    explicit BenchSession(std::string type, double pixelRatio = 1.0)
         : m_folder(std::filesystem::temp_directory_path() /
                    ("quillet-bench-" + std::to_string(std::random_device()()))),
           session(m_prompt, m_random, m_clock, m_folder), m_type(std::move(type))
     {
         std::filesystem::create_directories(m_folder);
-        session.makeCanvas = [](double width, double height) {
-            return std::make_unique<QtCanvas>(width, height);
+        session.makeCanvas = [pixelRatio](double width, double height) {
+            return std::make_unique<QtCanvas>(width, height, Rgb{255, 255, 255}, pixelRatio);
         };
         session.currentType = [this] { return m_type; };
     }

@@ -11,7 +11,7 @@ namespace {
 
 class LoadedDeck {
 public:
-    explicit LoadedDeck(const std::string& type) : m_bench(type)
+    explicit LoadedDeck(const std::string& type, double pixelRatio = 1.0) : m_bench(type, pixelRatio)
     {
         Session& session = m_bench.session;
         form = std::make_unique<Boeing>(session);
@@ -39,9 +39,9 @@ public:
     std::unique_ptr<Boeing> form;
 };
 
-void pointerMove(benchmark::State& run, const std::string& type)
+void pointerMove(benchmark::State& run, const std::string& type, double pixelRatio = 1.0)
 {
-    LoadedDeck deck(type);
+    LoadedDeck deck(type, pixelRatio);
     for (auto _ : run) {
         deck.pointAtCargo();
         benchmark::ClobberMemory();
@@ -67,6 +67,13 @@ void BM_PointerOverB767_300ER(benchmark::State& run)
     pointerMove(run, "B767-300ER");
 }
 BENCHMARK(BM_PointerOverB767_300ER)->Unit(benchmark::kMicrosecond);
+
+// The same on a screen at 200 %: four times the pixels to fill.
+void BM_PointerOverB767_300ER_Ratio2(benchmark::State& run)
+{
+    pointerMove(run, "B767-300ER", 2.0);
+}
+BENCHMARK(BM_PointerOverB767_300ER_Ratio2)->Unit(benchmark::kMicrosecond);
 
 // Eighteen main-deck containers, and the cargo check runs inside the drawing too.
 void BM_PointerOverDC8_71F(benchmark::State& run)

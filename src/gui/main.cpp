@@ -2,18 +2,20 @@
 #include "shell/StartUp.h"
 
 #include <QApplication>
+#include <QDebug>
 #include <QDir>
 #include <QFont>
 #include <QIcon>
 #include <QMessageBox>
-
 #include <filesystem>
 
 int main(int argc, char* argv[])
 {
-    QApplication qt(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillet"));
     QApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
+    quillet::answerOnTerminal(argc, argv);
+
+    QApplication qt(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("quillet"));
     QIcon icon;
     for (const QString& size : QDir(QStringLiteral(":/icons")).entryList())
@@ -22,6 +24,8 @@ int main(int argc, char* argv[])
     QFont font(QStringLiteral("Arial"));
     font.setPointSizeF(8.25);
     QApplication::setFont(font);
+    for (const QString& line : quillet::fontsThatDiffer())
+        qWarning().noquote() << line;
 
     // The program's files (quillet.ini, the station files, the pictures) lie in the folder it works in,
     // which is also its current folder.

@@ -23,38 +23,45 @@ void floodRuns(int width, int height, int x, int y, IsBorder&& isBorder, OnRun&&
         return;
     reached.resize(static_cast<std::size_t>(width) * height, 0);
     std::vector<int> runs; // left, right, y of every run, to hand the scratch room back clean
-    const auto open = [&](int px, int py) {
-        return !reached[static_cast<std::size_t>(py) * width + px] && !isBorder(px, py);
+    const auto rowOf = [&](int py) { return &reached[static_cast<std::size_t>(py) * width]; };
+
+    // Scanline fill: a run is grown whole as soon as one of its pixels is found open, so that each
+    // pixel's border test is made once; pixels already reached are skipped a row span at a time.
+    std::vector<std::size_t> pending; // runs whose neighbouring rows are still to be searched
+    const auto grow = [&](int px, int py) {
+        std::uint8_t* row = rowOf(py);
+        int left = px;
+        while (left > 0 && !row[left - 1] && !isBorder(left - 1, py))
+            --left;
+        int right = px;
+        while (right + 1 < width && !row[right + 1] && !isBorder(right + 1, py))
+            ++right;
+        std::fill(row + left, row + right + 1, std::uint8_t{1});
+        pending.push_back(runs.size());
+        runs.insert(runs.end(), {left, right, py});
+        onRun(left, right, py);
+        return right;
     };
 
-    // Scanline fill: each seed grows into its whole run, which then seeds one point per open run of
-    // the rows above and below.
-    std::vector<std::pair<int, int>> seeds{{x, y}};
-    while (!seeds.empty()) {
-        auto [sx, sy] = seeds.back();
-        seeds.pop_back();
-        if (!open(sx, sy))
-            continue;
-        int left = sx;
-        while (left > 0 && open(left - 1, sy))
-            --left;
-        int right = sx;
-        while (right + 1 < width && open(right + 1, sy))
-            ++right;
-        std::uint8_t* row = &reached[static_cast<std::size_t>(sy) * width];
-        for (int px = left; px <= right; ++px)
-            row[px] = 1;
-        runs.insert(runs.end(), {left, right, sy});
-        onRun(left, right, sy);
+    grow(x, y);
+    while (!pending.empty()) {
+        const std::size_t run = pending.back();
+        pending.pop_back();
+        const int left = runs[run];
+        const int right = runs[run + 1];
+        const int sy = runs[run + 2];
         for (int ny : {sy - 1, sy + 1}) {
             if (ny < 0 || ny >= height)
                 continue;
-            bool inRun = false;
-            for (int px = left; px <= right; ++px) {
-                const bool isOpen = open(px, ny);
-                if (isOpen && !inRun)
-                    seeds.emplace_back(px, ny);
-                inRun = isOpen;
+            const std::uint8_t* row = rowOf(ny);
+            int px = left;
+            while (px <= right) {
+                if (row[px])
+                    px = static_cast<int>(std::find(row + px, row + right + 1, std::uint8_t{0}) - row);
+                else if (isBorder(px, ny))
+                    ++px;
+                else
+                    px = grow(px, ny) + 1;
             }
         }
     }

@@ -2,6 +2,7 @@
 
 #include "AircraftTypes.h"
 #include "Settings.h"
+#include "UserFolder.h"
 #include "load/Summary.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -125,27 +126,38 @@ void Form1::loadini(int& count)
     Combo1.clear();
 
     const auto file = findPath(kSettingsFile, m_session.programFolder);
-    auto bytes =
-        file ? m_session.files.read(*file, kSettingsMaxBytes)
-             : Result<std::string>(Error{"\"" + std::string(kSettingsFile) + "\" was not found in \"" +
-                                         displayPath(m_session.programFolder) + "\"."});
-    if (bytes) {
-        if (const auto notText = whyNotText(bytes.value()))
-            bytes = Error{"\"" + displayPath(*file) + "\" " + *notText + "."};
-    }
     Settings settings;
-    if (bytes) {
-        settings = parseSettings(bytes.value(), kMenuCapacity);
-        for (const std::string& problem : settings.problems) {
-            m_session.messages.reportOnce("The settings file \"" + displayPath(*file) +
-                                          "\" is not complete: " + problem + ".");
-        }
-    } else {
+    if (!file) {
+        // A first start: every type waits in the dialog's list of available aircraft, so the dialog
+        // can be used at once, as in a user folder's starter settings.
+        settings = parseSettings(starterSettings(), kMenuCapacity);
         m_session.messages.reportOnce(
-            "The settings could not be read: " + bytes.error().message +
-            " Quillet starts with no aircraft and the simulator folder \"" + std::string(kDefaultSimFolder) +
-            "\"; set them in the configuration dialog, which saves them when it is closed.");
-        settings.simfolder = std::string(kDefaultSimFolder);
+            "Quillet found no \"" + std::string(kSettingsFile) + "\" in \"" +
+            displayPath(m_session.programFolder) +
+            "\", so it starts with all its aircraft types waiting under \"Avaliable Aircraft\". Next, in the "
+            "configuration dialog, give the simulator folder (the one holding fs2000.exe), then choose each "
+            "aircraft you fly, type or browse to its folder and press \"Add\" when it appears; closing the "
+            "dialog saves the settings.");
+    } else {
+        auto bytes = m_session.files.read(*file, kSettingsMaxBytes);
+        if (bytes) {
+            if (const auto notText = whyNotText(bytes.value()))
+                bytes = Error{"\"" + displayPath(*file) + "\" " + *notText + "."};
+        }
+        if (bytes) {
+            settings = parseSettings(bytes.value(), kMenuCapacity);
+            for (const std::string& problem : settings.problems) {
+                m_session.messages.reportOnce("The settings file \"" + displayPath(*file) +
+                                              "\" is not complete: " + problem + ".");
+            }
+        } else {
+            m_session.messages.reportOnce(
+                "The settings could not be read: " + bytes.error().message +
+                " Quillet starts with no aircraft and the simulator folder \"" +
+                std::string(kDefaultSimFolder) +
+                "\"; set them in the configuration dialog, which saves them when it is closed.");
+            settings.simfolder = std::string(kDefaultSimFolder);
+        }
     }
 
     state.simfolder = settings.simfolder;

@@ -119,6 +119,43 @@ void Form4::simdir_Change()
     m_main.loadini(m_session.state.nmenu);
 }
 
+std::filesystem::path Form4::simulatorPickerStart() const
+{
+    if (auto found = findPath(simdir.text(), m_session.programFolder))
+        return *found;
+    return m_session.programFolder;
+}
+
+std::filesystem::path Form4::aircraftPickerStart() const
+{
+    if (auto found = findPath(m_session.state.simfolder + "\\aircraft", m_session.programFolder))
+        return *found;
+    return simulatorPickerStart();
+}
+
+void Form4::simulatorFolderChosen(const std::filesystem::path& folder)
+{
+    simdir.setText(displayPath(folder));
+}
+
+void Form4::aircraftFolderChosen(const std::filesystem::path& folder)
+{
+    const auto aircraft = findPath(m_session.state.simfolder + "\\aircraft", m_session.programFolder);
+    std::error_code ec;
+    std::filesystem::path chosen = folder.lexically_normal();
+    if (!chosen.has_filename())
+        chosen = chosen.parent_path(); // "…/b737_300/"
+    if (!aircraft || !std::filesystem::equivalent(chosen.parent_path(), *aircraft, ec)) {
+        m_session.messages.report("\"" + displayPath(folder) +
+                                  "\" is not in the simulator's aircraft folder \"" +
+                                  m_session.state.simfolder +
+                                  "\\aircraft\"; choose one of the folders inside it, or first give the "
+                                  "simulator folder.");
+        return;
+    }
+    invalid_dir.setText(chosen.filename().string());
+}
+
 void Form4::Form_Unload()
 {
     if (!m_main.saveini(m_session.state.nmenu))

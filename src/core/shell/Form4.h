@@ -3,6 +3,7 @@
 #include "load/Session.h"
 #include "platform/Controls.h"
 
+#include <filesystem>
 #include <string>
 
 namespace quillet {
@@ -41,6 +42,14 @@ public:
     void Command1_Click();
     void simdir_Change();
     void Form_Unload();
+
+    // The folder picker beside the two folder boxes: where it opens, and the folder chosen, which
+    // fills the box as if typed. An aircraft folder must lie in the simulator's aircraft folder;
+    // its name is what the box takes.
+    std::filesystem::path simulatorPickerStart() const;
+    std::filesystem::path aircraftPickerStart() const;
+    void simulatorFolderChosen(const std::filesystem::path& folder);
+    void aircraftFolderChosen(const std::filesystem::path& folder);
 
 private:
     void reset();

@@ -47,9 +47,16 @@ void PictureBox::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.fillRect(rect(), palette().window());
     if (m_canvas)
-        painter.drawImage(0, 0, m_canvas->image());
-    if (!m_picture.isNull())
-        painter.drawPixmap(0, 0, m_picture);
+        painter.drawImage(0, 0, m_canvas->image()); // drawn at the screen's pixel ratio, shown 1:1
+    if (!m_picture.isNull()) {
+        // A picture larger than its box is scaled down smoothly to fit, keeping its proportions.
+        const QSizeF natural = m_picture.deviceIndependentSize();
+        QSizeF shown = natural;
+        if (natural.width() > width() || natural.height() > height())
+            shown = natural.scaled(size(), Qt::KeepAspectRatio);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawPixmap(QRectF(QPointF(0, 0), shown), m_picture, QRectF(m_picture.rect()));
+    }
     if (m_border) {
         painter.setPen(palette().color(QPalette::Dark));
         painter.drawLine(0, 0, width() - 1, 0);

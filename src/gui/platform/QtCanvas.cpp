@@ -28,14 +28,19 @@ int pixel(double v)
 
 } // namespace
 
-QtCanvas::QtCanvas(double widthTwips, double heightTwips, Rgb background)
+QtCanvas::QtCanvas(double widthTwips, double heightTwips, Rgb background, double pixelRatio)
     : Canvas(twipsToPixels(widthTwips), twipsToPixels(heightTwips)),
-      m_image(std::max(1, twipsToPixels(widthTwips)), std::max(1, twipsToPixels(heightTwips)),
+      m_ratio(pixelRatio > 0 ? pixelRatio : 1.0),
+      m_hatchPeriod(std::max(8, static_cast<int>(std::lround(8 * m_ratio)))),
+      m_image(std::max(1, static_cast<int>(std::ceil(twipsToPixels(widthTwips) * m_ratio))),
+              std::max(1, static_cast<int>(std::ceil(twipsToPixels(heightTwips) * m_ratio))),
               QImage::Format_RGB32),
       m_background(toQColor(background))
 {
+    // Text is measured at 96 dots per inch whatever the ratio, so that layouts come out the same.
     m_image.setDotsPerMeterX(kDotsPerMetre);
     m_image.setDotsPerMeterY(kDotsPerMetre);
+    m_image.setDevicePixelRatio(m_ratio);
     m_image.fill(m_background);
     takeRows();
     fontChanged();
@@ -74,11 +79,22 @@ void QtCanvas::fillSpan(int left, int right, int y)
     const QRgb colour = toQRgb(fillColor());
     left = std::max(left, 0);
     right = std::min(right, m_width - 1);
+    if (left > right)
+        return;
     QRgb* line = row(y);
-    for (int x = left; x <= right; ++x) {
-        if (takesFill(fillStyle(), x, y))
-            line[x] = colour;
+    if (fillStyle() == FillStyle::Solid) {
+        std::fill(line + left, line + right + 1, colour);
+        return;
     }
+    // The diagonal cross of the old toolkit, its period grown with the pixel ratio so that the hatch
+    // keeps its spacing on the screen with lines one image pixel wide. Only the pixels on its two
+    // diagonals are visited: large holds are hatched at every pointer movement.
+    const int period = m_hatchPeriod;
+    const auto mod = [period](int v) { return ((v % period) + period) % period; };
+    for (int x = left + mod(-(left + y)); x <= right; x += period)
+        line[x] = colour;
+    for (int x = left + mod(y - left); x <= right; x += period)
+        line[x] = colour;
 }
 
 void QtCanvas::doClear()
@@ -99,10 +115,10 @@ void QtCanvas::doLine(double x1, double y1, double x2, double y2, Rgb colour)
 {
     takeRows();
     // Bresenham, both ends included.
-    int x = pixel(x1);
-    int y = pixel(y1);
-    const int xEnd = pixel(x2);
-    const int yEnd = pixel(y2);
+    int x = device(x1);
+    int y = device(y1);
+    const int xEnd = device(x2);
+    const int yEnd = device(y2);
     const int dx = std::abs(xEnd - x);
     const int dy = -std::abs(yEnd - y);
     const int stepX = x < xEnd ? 1 : -1;
@@ -129,10 +145,10 @@ void QtCanvas::doLine(double x1, double y1, double x2, double y2, Rgb colour)
 void QtCanvas::doBox(double x1, double y1, double x2, double y2, Rgb outline)
 {
     takeRows();
-    const int left = std::min(pixel(x1), pixel(x2));
-    const int right = std::max(pixel(x1), pixel(x2));
-    const int top = std::min(pixel(y1), pixel(y2));
-    const int bottom = std::max(pixel(y1), pixel(y2));
+    const int left = std::min(device(x1), device(x2));
+    const int right = std::max(device(x1), device(x2));
+    const int top = std::min(device(y1), device(y2));
+    const int bottom = std::max(device(y1), device(y2));
     for (int y = top + 1; y < bottom; ++y)
         fillSpan(left + 1, right - 1, y);
     const QRgb pen = toQRgb(outline);
@@ -148,6 +164,9 @@ void QtCanvas::doBox(double x1, double y1, double x2, double y2, Rgb outline)
 void QtCanvas::doCircle(double cx, double cy, double radius, Rgb outline)
 {
     takeRows();
+    cx *= m_ratio;
+    cy *= m_ratio;
+    radius *= m_ratio;
     // The pixels whose centres lie within the radius, as one run per row; a pixel at a run's end or
     // beyond the runs of the rows above or below is on the outline.
     const int top = pixel(cy - radius);
@@ -190,7 +209,8 @@ void QtCanvas::doFloodFill(int px, int py)
     takeRows();
     const QRgb border = toQRgb(foreColor()) & 0xFFFFFF;
     floodRuns(
-        m_width, m_height, px, py, [this, border](int x, int y) { return (row(y)[x] & 0xFFFFFF) == border; },
+        m_width, m_height, device(px + 0.5), device(py + 0.5),
+        [this, border](int x, int y) { return (row(y)[x] & 0xFFFFFF) == border; },
         [this](int left, int right, int y) { fillSpan(left, right, y); }, m_floodScratch);
     changed();
 }
@@ -207,11 +227,12 @@ const QtCanvas::RenderedText& QtCanvas::rendered(std::string_view text)
     RenderedText result;
     const QString words = toQString(std::string(text));
     result.width = m_metrics->horizontalAdvance(words);
-    const int width = static_cast<int>(std::ceil(result.width)) + 2;
-    const int height = static_cast<int>(std::ceil(m_metrics->height())) + 1;
+    const int width = static_cast<int>(std::ceil((result.width + 2) * m_ratio));
+    const int height = static_cast<int>(std::ceil((m_metrics->height() + 1) * m_ratio));
     QImage coverage(std::max(1, width), std::max(1, height), QImage::Format_Alpha8);
     coverage.setDotsPerMeterX(kDotsPerMetre);
     coverage.setDotsPerMeterY(kDotsPerMetre);
+    coverage.setDevicePixelRatio(m_ratio); // rendered at the image's resolution
     coverage.fill(0);
     {
         QPainter painter(&coverage);
@@ -234,8 +255,8 @@ void QtCanvas::doText(double x, double y, std::string_view text)
     takeRows();
     const RenderedText& words = rendered(text);
     const QRgb fore = toQRgb(foreColor());
-    const int left = pixel(x);
-    const int top = pixel(y);
+    const int left = device(x);
+    const int top = device(y);
     for (const RenderedText::Dot& dot : words.dots) {
         const int tx = left + dot.x;
         const int ty = top + dot.y;

@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QImage>
+#include <cmath>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -20,9 +21,15 @@ namespace quillet {
 // directly and each text is rendered once and then copied.
 class QtCanvas final : public Canvas {
 public:
-    QtCanvas(double widthTwips, double heightTwips, Rgb background = {255, 255, 255});
+    // `pixelRatio` is the screen's device pixel ratio: the image has that many pixels to each of the
+    // picture's pixels, so that lines and text stay sharp on a high-density screen. Positions, sizes
+    // and flood-fill seeds still come in the picture's own pixels (15 twips each).
+    QtCanvas(double widthTwips, double heightTwips, Rgb background = {255, 255, 255},
+             double pixelRatio = 1.0);
 
+    // Carries the pixel ratio, so that it is drawn at the picture's size.
     const QImage& image() const { return m_image; }
+    double pixelRatio() const { return m_ratio; }
     // Called after every drawing operation, so that the widget showing the image can repaint.
     std::function<void()> onChanged;
 
@@ -48,6 +55,8 @@ private:
         if (x >= 0 && y >= 0 && x < m_width && y < m_height)
             row(y)[x] = colour;
     }
+    // A coordinate of the picture's pixels as an image pixel.
+    int device(double v) const { return static_cast<int>(std::floor(v * m_ratio)); }
     void span(int left, int right, int y, QRgb colour);
     void fillSpan(int left, int right, int y);
     // A text in the current font, measured and rendered once: its advance and the coverage of
@@ -63,6 +72,8 @@ private:
     };
     const RenderedText& rendered(std::string_view text);
 
+    double m_ratio = 1.0;
+    int m_hatchPeriod = 8; // image pixels between the lines of a diagonal cross fill
     QImage m_image;
     QImage m_backgroundImage; // null until a background is kept
     QRgb* m_bits = nullptr;

@@ -7,10 +7,53 @@
 #include <QComboBox>
 #include <QImageReader>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
+#include <QMainWindow>
+#include <QScreen>
+#include <QScrollArea>
 #include <QSignalBlocker>
+#include <QWindow>
 
 namespace quillet {
+
+void centreOnScreen(QWidget* window)
+{
+    const QScreen* screen = window->screen();
+    if (!screen)
+        return;
+    QRect frame(QPoint(), window->sizeHint().expandedTo(window->minimumSize()));
+    frame.moveCenter(screen->availableGeometry().center());
+    window->move(frame.topLeft());
+}
+
+void fitOnScreen(QMainWindow* window)
+{
+    const QScreen* screen = window->screen();
+    if (!screen)
+        return;
+    const QRect available = screen->availableGeometry();
+    // Before the window is first mapped its frame is unknown; allow for a title bar and borders.
+    QMargins frame = window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
+    if (frame.isNull())
+        frame = QMargins(4, 32, 4, 4);
+    const QSize room = available.size().shrunkBy(frame);
+    const QSize wanted = window->sizeHint().expandedTo(window->minimumSizeHint());
+    if (wanted.width() <= room.width() && wanted.height() <= room.height())
+        return;
+    if (!qobject_cast<QScrollArea*>(window->centralWidget())) {
+        QWidget* client = window->takeCentralWidget();
+        auto* scroll = new QScrollArea(window);
+        scroll->setObjectName(QStringLiteral("scroller"));
+        scroll->setFrameShape(QFrame::NoFrame);
+        scroll->setWidget(client);
+        window->setCentralWidget(scroll);
+    }
+    // The window's minimum size still holds the whole form until its layout is worked out again.
+    window->layout()->activate();
+    window->resize(wanted.boundedTo(room));
+    window->move(available.topLeft()); // a window's position is its frame's
+}
 
 void showState(QLabel* label, const LabelState& state)
 {

@@ -6,17 +6,19 @@
 #include "TextWindow.h"
 #include "freighter/FreighterForms.h"
 #include "freighter/FreighterWindow.h"
-#include "platform/QtCanvas.h"
-#include "platform/QtPrompt.h"
 #include "jets/JetForms.h"
 #include "jets/JetWindow.h"
+#include "platform/QtCanvas.h"
+#include "platform/QtPrompt.h"
 #include "platform/Twips.h"
+#include "platform/Widgets.h"
 #include "regional/RegionalForms.h"
 #include "regional/RegionalWindows.h"
 #include "shell/AboutText.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 
@@ -29,7 +31,10 @@ Application::Application(std::filesystem::path programFolder, Prompt* prompt)
         prompt = m_ownPrompt.get();
     }
     m_session = std::make_unique<Session>(*prompt, m_random, m_clock, std::move(programFolder));
-    m_session->makeCanvas = [](double width, double height) { return std::make_unique<QtCanvas>(width, height); };
+    // Drawn at the density of the sharpest screen, so that decks stay sharp on a high-density one.
+    m_session->makeCanvas = [](double width, double height) {
+        return std::make_unique<QtCanvas>(width, height, Rgb{255, 255, 255}, qApp->devicePixelRatio());
+    };
     m_form1 = std::make_unique<Form1>(*m_session, m_forms);
     registerRegionalForms(m_forms);
     registerRegionalWindows(*this);
@@ -39,16 +44,20 @@ Application::Application(std::filesystem::path programFolder, Prompt* prompt)
     registerFreighterWindows(*this);
 
     showMessage = [this](const std::string& text) {
-        QWidget* parent = QApplication::activeWindow();
-        QMessageBox::warning(parent ? parent : m_main.get(), QStringLiteral("Quillet"), QString::fromStdString(text));
+        QMessageBox::warning(messageParent(), QStringLiteral("Quillet"), QString::fromStdString(text));
+    };
+    chooseFolder = [](QWidget* parent, const QString& caption, const QString& start) {
+        return QFileDialog::getExistingDirectory(parent, caption, start);
     };
 
     m_main = std::make_unique<MainWindow>(*this);
     m_config = new ConfigDialog(*this, m_main.get());
-    m_about = new TextWindow(QString::fromLatin1(kVersionCaption), QString::fromLatin1(kVersionText), m_main.get());
+    m_about =
+        new TextWindow(QString::fromLatin1(kVersionCaption), QString::fromLatin1(kVersionText), m_main.get());
     m_about->setObjectName(QStringLiteral("About"));
     m_about->onClosed = [this] { m_form1->aboutVisible = false; };
-    m_terms = new TextWindow(QString::fromLatin1(kTermsCaption), QString::fromLatin1(kTermsText), m_main.get());
+    m_terms =
+        new TextWindow(QString::fromLatin1(kTermsCaption), QString::fromLatin1(kTermsText), m_main.get());
     m_terms->setObjectName(QStringLiteral("Form2"));
     m_terms->onClosed = [this] { m_form1->form2Visible = false; };
 }
@@ -63,7 +72,27 @@ Application::~Application()
 
 void Application::start()
 {
+    // Placed before it is first shown, so that the dialog and the messages of the start, which are
+    // centred on it, open beside it rather than where the window system would put them first.
+    centreOnScreen(m_main.get());
+    m_starting = true;
     handle([this] { m_form1->Form_Load(); });
+    m_starting = false;
+}
+
+QWidget* Application::messageParent() const
+{
+    // A message belongs to the window the user is working in; the start's belong to the main window.
+    QWidget* active = QApplication::activeWindow();
+    if (!m_starting && active && active->isVisible() && !qobject_cast<QMessageBox*>(active))
+        return active;
+    if (m_main->isVisible())
+        return m_main.get();
+    for (const auto& [name, window] : m_windows) {
+        if (window->isVisible())
+            return window;
+    }
+    return m_main.get();
 }
 
 void Application::handle(const std::function<void()>& handler)

@@ -7,9 +7,11 @@
 #include "shell/FormRegistry.h"
 
 #include <QObject>
+#include <QString>
 
 class QComboBox;
 class QLineEdit;
+class QWidget;
 
 #include <filesystem>
 #include <functional>
@@ -50,15 +52,23 @@ public:
     MainWindow* mainWindow() const { return m_main.get(); }
     ConfigDialog* configDialog() const { return m_config; }
     // Makes the window of a load form the first time the form is shown.
-    void addWindow(std::string formName, WindowMaker maker) { m_windowMakers[std::move(formName)] = std::move(maker); }
+    void addWindow(std::string formName, WindowMaker maker)
+    {
+        m_windowMakers[std::move(formName)] = std::move(maker);
+    }
     // The window of a load form by its name ("Beech"), once it has been shown.
     LoadFormWindow* window(const std::string& formName) const;
+
+    // The folder picker: the folder chosen, or an empty text when the user cancels.
+    std::function<QString(QWidget* parent, const QString& caption, const QString& start)> chooseFolder;
 
     // Where messages for the user go; a message box by default.
     std::function<void(const std::string&)> showMessage;
 
 private:
     void syncAll();
+    // The window a message box is centred on.
+    QWidget* messageParent() const;
 
     std::unique_ptr<Prompt> m_ownPrompt;
     SeededRandom m_random;
@@ -73,6 +83,7 @@ private:
     TextWindow* m_about = nullptr;
     TextWindow* m_terms = nullptr;
     int m_depth = 0;
+    bool m_starting = false;
 };
 
 } // namespace quillet

@@ -10,7 +10,10 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
+#include <QToolButton>
+#include <memory>
 
 namespace quillet {
 
@@ -18,8 +21,8 @@ namespace {
 
 enum class LabelFont { Form, Arial };
 
-QLabel* makeLabel(QWidget* parent, const char* name, const char* text, LabelFont font, double l, double t, double w,
-                  double h)
+QLabel* makeLabel(QWidget* parent, const char* name, const char* text, LabelFont font, double l, double t,
+                  double w, double h)
 {
     auto* label = new QLabel(QString::fromLatin1(text), parent);
     label->setObjectName(QString::fromLatin1(name));
@@ -46,8 +49,8 @@ ConfigDialog::ConfigDialog(Application& app, QWidget* parent)
     QLabel* active = makeLabel(this, "Label1", "Active Aircraft", LabelFont::Arial, 120, 0, 1695, 255);
     makeLabel(this, "Label2", "Directory", LabelFont::Arial, 2640, 0, 1935, 375);
     QLabel* available = makeLabel(this, "Label4", "Avaliable Aircraft", LabelFont::Arial, 0, 720, 1695, 255);
-    QLabel* simulator =
-        makeLabel(this, "Label3", "Current Directory of Flight Simulator", LabelFont::Form, 240, 1560, 4095, 255);
+    QLabel* simulator = makeLabel(this, "Label3", "Current Directory of Flight Simulator", LabelFont::Form,
+                                  240, 1560, 4095, 255);
 
     m_combo1 = new QComboBox(this);
     m_combo1->setObjectName(QStringLiteral("Combo1"));
@@ -81,7 +84,8 @@ ConfigDialog::ConfigDialog(Application& app, QWidget* parent)
     place(m_add, 4560, 1080, 495, 255);
     // Return in a text box must not press "Add", as a dialog's buttons otherwise would.
     m_add->setAutoDefault(false);
-    connect(m_add, &QPushButton::clicked, this, [this] { m_app.handle([this] { m_form.Command1_Click(); }); });
+    connect(m_add, &QPushButton::clicked, this,
+            [this] { m_app.handle([this] { m_form.Command1_Click(); }); });
 
     m_simdir = new QLineEdit(this);
     m_simdir->setObjectName(QStringLiteral("simdir"));
@@ -98,7 +102,54 @@ ConfigDialog::ConfigDialog(Application& app, QWidget* parent)
     connect(m_check2, &QCheckBox::toggled, this,
             [this](bool checked) { m_app.handle([this, checked] { m_form.Check2 = checked; }); });
 
+    // In the room the design leaves at the right of each folder box; nothing designed moves.
+    addFolderPicker(m_invalidDir, QStringLiteral("Choose the aircraft folder"), 5085, 1080, 255, 255,
+                    [this] { pickAircraftFolder(); });
+    addFolderPicker(m_simdir, QStringLiteral("Choose the simulator folder"), 4935, 1920, 375, 315,
+                    [this] { pickSimulatorFolder(); });
+
     sync();
+}
+
+void ConfigDialog::addFolderPicker(QLineEdit* box, const QString& caption, double left, double top,
+                                   double width, double height, const std::function<void()>& pick)
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(box->objectName() + QStringLiteral("_browse"));
+    button->setText(QStringLiteral("..."));
+    button->setToolTip(caption);
+    place(button, left, top, width, height);
+    nameForScreenReaders(button, caption);
+    connect(button, &QToolButton::clicked, this, pick);
+
+    box->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(box, &QLineEdit::customContextMenuRequested, this, [box, pick](const QPoint& at) {
+        std::unique_ptr<QMenu> menu(box->createStandardContextMenu());
+        menu->addSeparator();
+        QAction* browse = menu->addAction(QStringLiteral("Browse..."));
+        if (menu->exec(box->mapToGlobal(at)) == browse)
+            pick();
+    });
+}
+
+void ConfigDialog::pickSimulatorFolder()
+{
+    const QString chosen =
+        m_app.chooseFolder(this, QStringLiteral("Choose the simulator folder"),
+                           QString::fromStdU16String(m_form.simulatorPickerStart().u16string()));
+    if (chosen.isEmpty())
+        return;
+    m_app.handle([this, chosen] { m_form.loaded().simulatorFolderChosen(chosen.toStdU16String()); });
+}
+
+void ConfigDialog::pickAircraftFolder()
+{
+    const QString chosen =
+        m_app.chooseFolder(this, QStringLiteral("Choose the aircraft folder"),
+                           QString::fromStdU16String(m_form.aircraftPickerStart().u16string()));
+    if (chosen.isEmpty())
+        return;
+    m_app.handle([this, chosen] { m_form.loaded().aircraftFolderChosen(chosen.toStdU16String()); });
 }
 
 void ConfigDialog::sync()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 
 class QCheckBox;
 class QComboBox;
@@ -24,6 +25,12 @@ public:
     void done(int result) override;
 
 private:
+    // A "..." button and a "Browse..." entry in the box's context menu, both opening the folder picker.
+    void addFolderPicker(QLineEdit* box, const QString& caption, double left, double top, double width,
+                         double height, const std::function<void()>& pick);
+    void pickSimulatorFolder();
+    void pickAircraftFolder();
+
     Application& m_app;
     Form4& m_form;
     QComboBox* m_combo1 = nullptr;

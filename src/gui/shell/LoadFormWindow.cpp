@@ -30,6 +30,12 @@ void LoadFormWindow::closeEvent(QCloseEvent* event)
     event->accept();
 }
 
+void LoadFormWindow::showEvent(QShowEvent* event)
+{
+    fitOnScreen(this);
+    QMainWindow::showEvent(event);
+}
+
 void LoadFormWindow::showPhoto(PictureBox* box, const std::filesystem::path& file)
 {
     const QString shown = QString::fromStdString(file.string());

@@ -28,6 +28,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     // Shows the aircraft's photograph in its picture box, loading the file only when it changed.
     void showPhoto(PictureBox* box, const std::filesystem::path& file);
     // Ends a preset menu with a separator and "Load to Target..." (Ctrl+T), which opens the target

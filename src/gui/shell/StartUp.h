@@ -1,13 +1,21 @@
 #pragma once
 
 #include <QStringList>
-
 #include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
 
 namespace quillet {
+
+// Answers --help and --version on the terminal and ends the program, before any window system is
+// touched, so that they work without a display. Returns when the program is to start.
+void answerOnTerminal(int& argc, char** argv);
+
+// The layouts are measured in Arial and Times New Roman. For each that the system draws with a font
+// of other metrics (captions may then be cut), a line saying so and naming the package that brings
+// fonts of the same metrics.
+QStringList fontsThatDiffer();
 
 // The folder the program works in, from its command line. By default the folder it is started from.
 // With --user-folder, as the desktop entry starts an installed copy: the user's own folder, made on

@@ -1,4 +1,5 @@
 #include "ShellFixture.h"
+#include "shell/UserFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -149,7 +150,42 @@ TEST_F(ConfigDialog, AMissingSettingsFileIsCreatedWhenTheDialogCloses)
     form1.Form_Load();
     ASSERT_TRUE(form1.form4().visible);
     form1.form4Window().close();
-    EXPECT_EQ(dir.ini(), "C:\\program files\\microsoft games\\fs2000\r\n0\r\n");
+    // The same starter menu a user folder is given.
+    EXPECT_EQ(dir.ini(), starterSettings());
+}
+
+TEST_F(ConfigDialog, TheFolderPickerFillsTheBoxesAsIfTyped)
+{
+    dir.makeSimulator("FS2000.EXE");
+    dir.makeAircraft("b737_300");
+    dir.write("elsewhere/b737_300/aircraft.cfg", "[WEIGHT_AND_BALANCE]\r\n");
+    dir.writeIni("nowhere", {"B737-300,"});
+    form1.Form_Load();
+    Form4& dialog = form1.form4();
+    EXPECT_EQ(dialog.aircraftPickerStart(), dialog.simulatorPickerStart())
+        << "no aircraft folder to open yet";
+
+    dialog.simulatorFolderChosen(dir.path() / "sim");
+    EXPECT_EQ(dialog.simdir.text(), dir.sim());
+    EXPECT_TRUE(dialog.Check2);
+    EXPECT_EQ(dir.ini(), dir.sim() + "\r\n1\r\nB737-300,\r\n");
+    EXPECT_EQ(dialog.aircraftPickerStart(), dir.path() / "sim" / "aircraft");
+
+    // A folder outside the simulator's aircraft folder is refused with a word, the box untouched.
+    session.messages.take();
+    dialog.aircraftFolderChosen(dir.path() / "elsewhere" / "b737_300");
+    EXPECT_EQ(dialog.invalid_dir.text(), "aircraftdir");
+    EXPECT_FALSE(dialog.Command1_visible);
+    ASSERT_EQ(session.messages.pending().size(), 1u);
+    EXPECT_NE(session.messages.take()[0].find("is not in the simulator's aircraft folder"),
+              std::string::npos);
+
+    dialog.aircraftFolderChosen(dir.path() / "sim" / "aircraft" / "b737_300");
+    EXPECT_EQ(dialog.invalid_dir.text(), "b737_300");
+    EXPECT_TRUE(dialog.Command1_visible) << "\"Add\" shows, as for a typed folder";
+    dialog.Command1_Click();
+    EXPECT_EQ(dialog.Combo1.items(), std::vector<std::string>{"B737-300"});
+    EXPECT_TRUE(session.messages.pending().empty());
 }
 
 TEST_F(ConfigDialog, ASettingsFileThatCannotBeWrittenIsReportedOnlyWhenItNeedsAChange)

@@ -123,14 +123,25 @@ TEST_F(StartUp, LineTwoZeroLeavesTheListEmpty)
     EXPECT_EQ(state.nmenu, 0);
 }
 
-TEST_F(StartUp, MissingSettingsFileStartsEmptyWithTheDefaultFolderAndSaysSo)
+TEST_F(StartUp, MissingSettingsFileOffersEveryTypeInTheDialogAndSaysWhatToDoNext)
 {
     form1.Form_Load();
     EXPECT_EQ(state.simfolder, "C:\\program files\\microsoft games\\fs2000");
-    EXPECT_EQ(state.nmenu, 0);
     EXPECT_TRUE(form1.Combo1.items().empty());
-    ASSERT_EQ(session.messages.pending().size(), 1u);
-    EXPECT_NE(session.messages.pending()[0].find("\"quillet.ini\" was not found"), std::string::npos);
+    EXPECT_TRUE(form1.form4().Combo1.items().empty());
+    EXPECT_EQ(form1.form4().Combo2.items(),
+              (std::vector<std::string>{"Beech 1900D", "Empraer EMB_120", "DHC-8-300", "CRJ-200ER",
+                                        "DC-10-30F", "B727-212ADV", "B737-200ADV", "B737-300", "B757-200",
+                                        "B757-200F", "B767-300ER", "DC-8-71F", "DC-9-30F", "MD-90-30"}));
+    EXPECT_EQ(form1.form4().Combo2.text(), "Beech 1900D") << "ready for its folder";
+    EXPECT_EQ(
+        session.messages.pending(),
+        std::vector<std::string>{
+            "Quillet found no \"quillet.ini\" in \"" + dir.path().string() +
+            "\", so it starts with all its aircraft types waiting under \"Avaliable Aircraft\". Next, in the "
+            "configuration dialog, give the simulator folder (the one holding fs2000.exe), then choose each "
+            "aircraft you fly, type or browse to its folder and press \"Add\" when it appears; closing the "
+            "dialog saves the settings."});
     EXPECT_TRUE(form1.form4().visible) << "the configuration dialog is shown";
     EXPECT_FALSE(std::filesystem::exists(dir.path() / "quillet.ini")) << "nothing is written at start";
 }

@@ -90,5 +90,35 @@ TEST(QtCanvas, FilledShapesAndText)
     EXPECT_NEAR(canvas.textWidth("Main Deck"), width / 15, 1e-9);
 }
 
+// On a screen at 200 % the image has four pixels to each of the picture's: lines stay one image
+// pixel wide, while positions, fill seeds and text measures keep their meaning in twips.
+TEST(QtCanvas, AtPixelRatioTwoLinesStayThinAndTwipsKeepTheirMeaning)
+{
+    QtCanvas canvas(1500, 1500, {255, 255, 255}, 2.0);
+    EXPECT_EQ(canvas.image().size(), QSize(200, 200));
+    EXPECT_EQ(canvas.image().devicePixelRatio(), 2.0);
+    EXPECT_EQ(canvas.scaleWidth(), 1500);
+
+    canvas.line(150, 300, 1350, 300, kBlack); // picture row 20
+    EXPECT_EQ(at(canvas, 100, 40), kBlackPixel);
+    EXPECT_EQ(at(canvas, 100, 39), kWhitePixel);
+    EXPECT_EQ(at(canvas, 100, 41), kWhitePixel);
+
+    canvas.box(150, 450, 750, 750, kBlack); // picture pixels 10..50 by 30..50
+    canvas.setForeColor(kBlack);
+    canvas.setFillStyle(FillStyle::Solid);
+    canvas.setFillColor(kGreen);
+    canvas.floodFill(30, 40);
+    EXPECT_EQ(at(canvas, 21, 61), kGreenPixel);
+    EXPECT_EQ(at(canvas, 99, 99), kGreenPixel);
+    EXPECT_EQ(at(canvas, 20, 60), kBlackPixel) << "a one-pixel outline holds the fill";
+    EXPECT_EQ(at(canvas, 21, 59), kWhitePixel) << "nothing leaks";
+
+    QtCanvas single(1500, 1500);
+    canvas.setFont(10, true);
+    single.setFont(10, true);
+    EXPECT_EQ(canvas.textWidth("Main Deck"), single.textWidth("Main Deck"));
+}
+
 } // namespace
 } // namespace quillet

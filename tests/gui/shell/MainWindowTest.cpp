@@ -1,12 +1,11 @@
 #include "GuiFixture.h"
-
 #include "shell/ConfigDialog.h"
 
 #include <QCheckBox>
 #include <QFocusEvent>
 #include <QPushButton>
 #include <QTest>
-
+#include <QToolButton>
 #include <algorithm>
 
 namespace quillet {
@@ -37,8 +36,9 @@ TEST_F(MainWindowGui, ListsTheEntriesWhoseAircraftCfgExistsAndShowsTheSummary)
     EXPECT_FALSE(app->configDialog()->isVisible()) << "the simulator folder is confirmed";
 
     // Its picture is missing from the program folder: told once, and the box stays blank.
-    EXPECT_EQ(std::count_if(told.begin(), told.end(),
-                            [](const std::string& m) { return m.find("\"B737-300.gif\" was not found") != m.npos; }),
+    EXPECT_EQ(std::count_if(
+                  told.begin(), told.end(),
+                  [](const std::string& m) { return m.find("\"B737-300.gif\" was not found") != m.npos; }),
               1);
     EXPECT_TRUE(find<QWidget>(main(), "PicDHC")->isVisible());
 }
@@ -68,6 +68,48 @@ TEST_F(MainWindowGui, WithoutASimulatorTheConfigurationDialogOpens)
     QApplication::processEvents();
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(find<QComboBox>(main(), "Combo1")->count(), 1) << "closing reads the settings back";
+}
+
+TEST_F(MainWindowGui, AFirstStartByHandLeadsThroughTheDialogWithTheFolderPicker)
+{
+    dir.makeSimulator();
+    dir.makeAircraft("b737_300");
+    std::vector<QString> opened;
+    QString answer;
+    start();
+    app->chooseFolder = [&](QWidget*, const QString&, const QString& start) {
+        opened.push_back(start);
+        return answer;
+    };
+    ConfigDialog* dialog = app->configDialog();
+    ASSERT_TRUE(dialog->isVisible());
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_EQ(told[0].find("Quillet found no \"quillet.ini\""), 0u) << told[0];
+    EXPECT_EQ(find<QComboBox>(dialog, "Combo2")->count(), 14);
+    // Opened over the main window, not in a corner of the screen.
+    EXPECT_TRUE(main()->frameGeometry().contains(dialog->frameGeometry().center()));
+
+    // Cancelling the picker changes nothing.
+    QTest::mouseClick(find<QToolButton>(dialog, "simdir_browse"), Qt::LeftButton);
+    EXPECT_FALSE(find<QCheckBox>(dialog, "Check2")->isChecked());
+    answer = QString::fromStdString(dir.sim());
+    QTest::mouseClick(find<QToolButton>(dialog, "simdir_browse"), Qt::LeftButton);
+    EXPECT_EQ(find<QLineEdit>(dialog, "simdir")->text(), answer);
+    EXPECT_TRUE(find<QCheckBox>(dialog, "Check2")->isChecked());
+
+    find<QComboBox>(dialog, "Combo2")->setCurrentIndex(7);
+    emit find<QComboBox>(dialog, "Combo2")->activated(7);
+    ASSERT_EQ(find<QComboBox>(dialog, "Combo2")->currentText(), "B737-300");
+    answer = QString::fromStdString(dir.sim() + "/aircraft/b737_300");
+    QTest::mouseClick(find<QToolButton>(dialog, "invalid_dir_browse"), Qt::LeftButton);
+    EXPECT_EQ(opened.back(), QString::fromStdString(dir.sim() + "/aircraft"));
+    EXPECT_EQ(find<QLineEdit>(dialog, "invalid_dir")->text(), "b737_300");
+    QPushButton* add = find<QPushButton>(dialog, "Command1");
+    ASSERT_TRUE(add->isVisible());
+    QTest::mouseClick(add, Qt::LeftButton);
+    dialog->close();
+    QApplication::processEvents();
+    EXPECT_EQ(find<QComboBox>(main(), "Combo1")->currentText(), "B737-300");
 }
 
 TEST_F(MainWindowGui, MovingOnFromTheAircraftListShowsTheStoredLoadAgain)

@@ -1,0 +1,73 @@
+// Run by CTest a second time with QT_SCALE_FACTOR=2 (test "gui_at_200_percent"); at 100 % it is skipped.
+#include "GuiFixture.h"
+#include "jets/Boeing.h"
+#include "platform/PictureBox.h"
+#include "platform/QtCanvas.h"
+#include "shell/LoadFormWindow.h"
+
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTest>
+
+namespace quillet {
+namespace {
+
+class HighDensity : public GuiFixture {
+protected:
+    void SetUp() override
+    {
+        if (qApp->devicePixelRatio() != 2.0)
+            GTEST_SKIP() << "needs QT_SCALE_FACTOR=2";
+        dir.makeSimulator();
+        dir.makeAircraft("b737");
+        dir.writeIni(dir.sim(), {"B737-300,b737"});
+    }
+};
+
+TEST_F(HighDensity, TheDeckIsDrawnSharpAndClicksLandOnTheSameSeats)
+{
+    start();
+    QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
+    QMainWindow* window = app->window("Boeing");
+    ASSERT_NE(window, nullptr);
+    auto& form = static_cast<Boeing&>(*app->forms().existing("Boeing"));
+    const QImage& deck = dynamic_cast<QtCanvas&>(form.Picture1()).image();
+    auto* decks = find<PictureBox>(window, "Picture1");
+    EXPECT_EQ(deck.size(), decks->size() * 2);
+
+    // Down the column through seat 1A, the first black run (the cabin wall) is one image pixel thick.
+    const int column = 2 * 203;
+    int top = 0;
+    while (top < deck.height() && (deck.pixel(column, top) & 0xFFFFFF) != 0)
+        ++top;
+    ASSERT_LT(top, deck.height());
+    EXPECT_NE(deck.pixel(column, top + 1) & 0xFFFFFF, 0u) << "the wall at image row " << top;
+
+    // Seat 1A is drawn at (3045, 854) twips, at picture pixel (203, 57) whatever the ratio.
+    prompt.answer("170");
+    QTest::mouseClick(decks, Qt::LeftButton, {}, QPoint(203, 57));
+    ASSERT_EQ(prompt.asked().size(), 1u);
+    EXPECT_EQ(prompt.asked()[0].prompt, "Passenger 1A weight in lbs");
+    EXPECT_EQ(find<QLabel>(window, "lblpass")->text(), "Passengers  1 / 128");
+    EXPECT_TRUE(coloursIn(deck, 2 * 202, 2 * 56, 2 * 204, 2 * 58).count(0x00FF00));
+}
+
+TEST_F(HighDensity, AFormLargerThanTheScreenScrollsWithItsTitleBarOnTheScreen)
+{
+    start();
+    QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
+    QMainWindow* window = app->window("Boeing");
+    ASSERT_NE(window, nullptr);
+    const QRect available = window->screen()->availableGeometry();
+    ASSERT_LT(available.width(), 654) << "the offscreen screen is 400 x 300 at 200 %";
+    EXPECT_NE(qobject_cast<QScrollArea*>(window->centralWidget()), nullptr);
+    EXPECT_TRUE(available.contains(window->frameGeometry()))
+        << window->frameGeometry().width() << "x" << window->frameGeometry().height() << " in "
+        << available.width() << "x" << available.height();
+    EXPECT_EQ(find<QWidget>(window, "Picture1")->size(), QSize(633, 140))
+        << "the form itself is not squeezed";
+}
+
+} // namespace
+} // namespace quillet
