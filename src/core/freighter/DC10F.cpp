@@ -111,9 +111,7 @@ int clampedTo(int value, int capacity)
 } // namespace
 
 DC10F::DC10F(Session& session)
-    : LoadForm(session), m_picture1(session.makeCanvas(dc10f::kPicture1.width, dc10f::kPicture1.height)),
-      m_picture4(session.makeCanvas(dc10f::kSummary.Picture4.width, dc10f::kSummary.Picture4.height)),
-      m_picture3(session.makeCanvas(dc10f::kSummary.Picture3.width, dc10f::kSummary.Picture3.height))
+    : DeckForm(session, dc10f::kDeck)
 {
 }
 

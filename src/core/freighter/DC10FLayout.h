@@ -28,6 +28,8 @@ inline constexpr SummaryLayout kSummary{
     .Line1 = {4080, 3465, 240, 3465},
 };
 
+inline constexpr DeckLayout kDeck{kClientWidth, kClientHeight, kPicture1, kPicture2, kSummary};
+
 inline constexpr MenuItem kMnufile{"mnufile", "&File"};
 inline constexpr MenuItem kMnuload{"mnuload", "&Re-load Configuration"};
 inline constexpr MenuItem kMnusave{"mnusave", "&Save Configuration"};

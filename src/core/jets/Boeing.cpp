@@ -34,9 +34,7 @@ constexpr std::string_view kZoneOverload = " Zone Overload";
 } // namespace
 
 Boeing::Boeing(Session& session)
-    : LoadForm(session), m_picture1(session.makeCanvas(boeing::kPicture1.width, boeing::kPicture1.height)),
-      m_picture4(session.makeCanvas(boeing::kSummary.Picture4.width, boeing::kSummary.Picture4.height)),
-      m_picture3(session.makeCanvas(boeing::kSummary.Picture3.width, boeing::kSummary.Picture3.height))
+    : DeckForm(session, boeing::kDeck)
 {
 }
 

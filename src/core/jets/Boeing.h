@@ -1,7 +1,7 @@
 #pragma once
 
 #include "JetType.h"
-#include "shell/LoadForm.h"
+#include "shell/DeckForm.h"
 
 #include <filesystem>
 #include <memory>
@@ -13,40 +13,24 @@ namespace quillet {
 // The load form of the nine jet types: the decks drawn from the type's module, seats and holds loaded
 // with the mouse, cargo overload checks, "Empty Aircraft" and three presets. The window places its
 // controls at the twips below and shows the state here after every event.
-class Boeing final : public LoadForm {
+class Boeing final : public DeckForm {
 public:
     // A hover label that would end past this opens to the left of its station.
     static constexpr double kLabelRightLimit = 9435;
-    // Mouse buttons as the events report them.
-    static constexpr int kLeftButton = 1;
-    static constexpr int kRightButton = 2;
-
     explicit Boeing(Session& session);
 
-    // The drawing scale of the decks, twips per foot, set by the type's set-up.
-    int deckscale = 0;
-    // The window's caption: the type string once a type is set up.
-    std::string caption;
-    // The aircraft's picture (Picture2); empty when the file is missing.
-    std::filesystem::path photo;
-    SummaryLabels labels;
-
-    Canvas& Picture1() { return *m_picture1; }
-    SummaryLabels& summaryLabels() override { return labels; }
-    Canvas& Picture4() override { return *m_picture4; }
-    Canvas& Picture3() override { return *m_picture3; }
     // The type set up by the last Form_Load, or nullptr.
     const JetType* jetType() const { return m_type; }
 
     void Form_Load() override;
     void mnuload_Click() override;
-    void mnusave_Click();
+    void mnusave_Click() override;
     void mnuempty_Click();
     void mnulight_Click();
     void mnumed_Click();
     void mnuheav_Click();
-    void Picture1_MouseDown(int Button, int Shift, double X, double Y);
-    void Picture1_MouseMove(int Button, int Shift, double X, double Y);
+    void Picture1_MouseDown(int Button, int Shift, double X, double Y) override;
+    void Picture1_MouseMove(int Button, int Shift, double X, double Y) override;
 
     void redraw();
     Canvas* deckPicture() override { return &Picture1(); }
@@ -76,9 +60,6 @@ private:
     int drawSeat(int seats, bool wantOccupied);
 
     const JetType* m_type = nullptr;
-    std::unique_ptr<Canvas> m_picture1;
-    std::unique_ptr<Canvas> m_picture4;
-    std::unique_ptr<Canvas> m_picture3;
 };
 
 } // namespace quillet

@@ -27,6 +27,8 @@ inline constexpr SummaryLayout kSummary{
     .Line1 = {3960, 3465, 120, 3465},
 };
 
+inline constexpr DeckLayout kDeck{kClientWidth, kClientHeight, kPicture1, kPicture2, kSummary};
+
 inline constexpr MenuItem kMnufile{"mnufile", "&File"};
 inline constexpr MenuItem kMnuload{"mnuload", "&Re-load Configuration"};
 inline constexpr MenuItem kMnusave{"mnusave", "&Save configuration"};

@@ -37,7 +37,7 @@ public:
     // Reads the type's stored load again, redraws and runs the summary.
     void mnuload_Click() override;
     // The aircraft file writer. Nothing on the form changes.
-    void mnusave_Click();
+    void mnusave_Click() override;
     void mnulight_Click();
     void mnumed_Click();
     void mnuheav_Click();

@@ -50,6 +50,16 @@ struct SummaryLayout {
     TwipsLine Line1;
 };
 
+// Where a deck form places its controls: its client area, the deck picture that takes the mouse,
+// the aircraft's picture and the weight summary.
+struct DeckLayout {
+    int clientWidth = 0;
+    int clientHeight = 0;
+    TwipsRect Picture1;
+    TwipsRect Picture2;
+    SummaryLayout summary;
+};
+
 // Fixed texts of those controls.
 inline constexpr std::string_view kLabel1Text = "Demonstrated configuration"; // Arial 9.75 pt bold
 inline constexpr std::string_view kLabel1Font = "Arial";

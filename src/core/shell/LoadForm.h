@@ -22,6 +22,8 @@ public:
     virtual void Form_Load() = 0;
     // Reads the type's stored load again and shows it.
     virtual void mnuload_Click() = 0;
+    // Writes the aircraft's aircraft.cfg and the type's station file from the load state.
+    virtual void mnusave_Click() = 0;
     // Closing: the summary on this form, the main window's refresh, and the main window again.
     virtual void Form_Unload();
 

@@ -25,6 +25,7 @@ public:
         calls.push_back("mnuload_Click");
         m_session.state.loadweight = m_load; // as if read from its station file
     }
+    void mnusave_Click() override {}
     SummaryLabels& summaryLabels() override { return labels; }
     Canvas& Picture4() override { return picture4; }
     Canvas& Picture3() override { return picture3; }
