@@ -74,6 +74,10 @@ protected:
         const LoadSheet sheet = window->loadSheet();
         const std::filesystem::path file = dir.path() / sheet.fileName;
         EXPECT_TRUE(saveLoadSheetPdf(QString::fromStdString(file.string()), sheet, window->form()));
+        // To look at the sheets: QUILLET_KEEP_SHEETS names a folder the PDFs are copied into.
+        if (const char* keep = std::getenv("QUILLET_KEEP_SHEETS"))
+            std::filesystem::copy_file(file, std::filesystem::path(keep) / sheet.fileName,
+                                       std::filesystem::copy_options::overwrite_existing);
         const std::optional<std::string> text = pdfText(file);
         if (!text) {
             // Under CI the test command installs it; anywhere else say why nothing was checked.
