@@ -21,14 +21,19 @@ LoadSheetRow plain(std::string label, double weight, std::string limit = {})
 }
 
 // A total held against a limit: the margin left, or by how much the limit is passed.
-LoadSheetRow limited(std::string label, double weight, double limit)
+LoadSheetRow limited(std::string label, double weight, double limit, bool exceeded)
 {
     LoadSheetRow row = plain(std::move(label), weight, poundsAndKilograms(limit));
-    // As on the form, a weight exactly at its limit passes.
-    row.exceeded = weight > limit;
-    row.margin = row.exceeded ? "EXCEEDED by " + poundsAndKilograms(weight - limit)
-                              : "margin " + poundsAndKilograms(limit - weight);
+    row.exceeded = exceeded;
+    row.margin = exceeded ? "EXCEEDED by " + poundsAndKilograms(weight - limit)
+                          : "margin " + poundsAndKilograms(std::max(0.0, limit - weight));
     return row;
+}
+
+// As on the form, a weight exactly at its limit passes.
+LoadSheetRow limited(std::string label, double weight, double limit)
+{
+    return limited(std::move(label), weight, limit, weight > limit);
 }
 
 std::string isoDate(const Date& date)
@@ -86,15 +91,20 @@ LoadSheet makeLoadSheet(const LoadState& state, const StationGroups& groups, std
 
     sheet.basicOperatingWeight = state.emptyweight;
     sheet.payload = state.loadweight;
-    sheet.zeroFuelWeight = sheet.basicOperatingWeight + sheet.payload;
+    sheet.zeroFuelWeight = state.emptyweight + state.loadweight; // in single precision, as the form checks it
     sheet.allowableFuel = state.fuelallowance;
-    sheet.takeOffWeight = sheet.zeroFuelWeight + std::max(0.0, sheet.allowableFuel);
+    // Summed in single precision as the form's total weight is, so that both show the same pounds.
+    const bool fuelAllowed = state.fuelallowance >= 0;
+    sheet.takeOffWeight = fuelAllowed ? state.emptyweight + state.loadweight + state.fuelallowance
+                                      : state.emptyweight + state.loadweight;
 
     sheet.totals.push_back(plain("Basic operating weight", sheet.basicOperatingWeight));
     sheet.totals.push_back(plain("Payload", sheet.payload));
     sheet.totals.push_back(limited("Zero-fuel weight", sheet.zeroFuelWeight, state.maxzerofuel));
     sheet.totals.push_back(plain("Allowable fuel", sheet.allowableFuel, poundsAndKilograms(state.maxfuel)));
-    sheet.totals.push_back(limited("Take-off weight", sheet.takeOffWeight, state.maxtakeoff));
+    // The allowance fills up to the take-off limit at most, so only a load that leaves no fuel at all
+    // passes it; comparing the sum would flag rounding noise.
+    sheet.totals.push_back(limited("Take-off weight", sheet.takeOffWeight, state.maxtakeoff, !fuelAllowed));
     // Whatever fuel is burnt, the aircraft lands no lighter than its zero-fuel weight.
     LoadSheetRow landing = limited("Maximum landing weight", sheet.zeroFuelWeight, state.maxlanding);
     landing.weight.clear();

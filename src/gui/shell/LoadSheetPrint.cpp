@@ -135,7 +135,7 @@ void paintLoadSheet(QPagedPaintDevice& device, const LoadSheet& sheet, LoadForm&
         return result;
     };
 
-    Table groups(painter, left, width, {0.24, 0.08, 0.22, 0.22, 0.24});
+    Table groups(painter, left, width, {0.23, 0.07, 0.19, 0.19, 0.32});
     y += groups.row(y,
                     {QStringLiteral("Group"), QStringLiteral("Loaded"), QStringLiteral("Weight"),
                      QStringLiteral("Limit"), QStringLiteral("Margin")},
@@ -145,7 +145,7 @@ void paintLoadSheet(QPagedPaintDevice& device, const LoadSheet& sheet, LoadForm&
         y += groups.row(y, cells(row, true), false, row.exceeded ? kExceededColour : Qt::black);
     y += kGap;
 
-    Table totals(painter, left, width, {0.24, 0.30, 0.22, 0.24});
+    Table totals(painter, left, width, {0.23, 0.26, 0.19, 0.32});
     y += totals.row(y,
                     {QStringLiteral("Totals"), QStringLiteral("Weight"), QStringLiteral("Limit"),
                      QStringLiteral("Margin")},

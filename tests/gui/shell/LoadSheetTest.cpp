@@ -112,7 +112,9 @@ TEST_P(SheetOfEveryType, PdfCarriesTheTotalsLimitsMarginsAndBalanceOfTheLoad)
         poundsAndKilograms(zeroFuel),
         poundsAndKilograms(state.maxzerofuel),
         poundsAndKilograms(state.fuelallowance),
-        poundsAndKilograms(zeroFuel + std::max(0.0f, state.fuelallowance)),
+        // The take-off weight is the form's total weight, or the zero-fuel weight when no fuel is allowed.
+        poundsAndKilograms(
+            state.fuelallowance >= 0 ? state.emptyweight + state.loadweight + state.fuelallowance : zeroFuel),
         poundsAndKilograms(state.maxtakeoff),
         poundsAndKilograms(state.maxlanding),
         zeroFuel > state.maxzerofuel ? "EXCEEDED by " + poundsAndKilograms(zeroFuel - state.maxzerofuel)
