@@ -56,9 +56,10 @@ TEST_F(JetWindowGui, OpensOnTheB737AndLoadsASeatWithTheMouse)
         for (QAction* item : menu->menu()->actions())
             menus << (item->isSeparator() ? QStringLiteral("-") : item->text());
     }
-    EXPECT_EQ(menus.join('|'),
-              "&File|&Re-load Configuration|&Save configuration|&Auto Load|&Empty Aircraft|-|"
-              "&Light Load|&Medium Load|&Heavy Load");
+    EXPECT_EQ(
+        menus.join('|'),
+        "&File|&Re-load Configuration|&Save configuration|-|Load &Sheet...|&Auto Load|&Empty Aircraft|-|"
+        "&Light Load|&Medium Load|&Heavy Load|-|Load to &Target...");
 
     // Seat 1A is drawn at (3045, 854) twips: pixel (203, 56.9) of the picture.
     prompt.answer("170");
