@@ -88,6 +88,8 @@ void LoadFormWindow::showLoadSheet()
     preview->setObjectName(QStringLiteral("LoadSheetPreview"));
     preview->setWindowTitle(QStringLiteral("Load Sheet"));
     preview->setAttribute(Qt::WA_DeleteOnClose);
+    // Room for the whole tool bar, "Save as PDF..." included, and a readable page.
+    preview->resize(860, 900);
     connect(preview, &QObject::destroyed, this, [printer] { delete printer; });
     // The sheet is laid out afresh for every page set-up the preview asks for.
     connect(preview, &QPrintPreviewDialog::paintRequested, this,

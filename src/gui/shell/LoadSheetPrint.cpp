@@ -100,6 +100,8 @@ void paintLoadSheet(QPagedPaintDevice& device, const LoadSheet& sheet, LoadForm&
     const double dpi = device.logicalDpiX();
     painter.scale(dpi / kPointsPerInch, dpi / kPointsPerInch);
     painter.setRenderHint(QPainter::TextAntialiasing);
+    // A preview shows the drawings scaled down: smoothing keeps their one-dot lines visible there.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QRectF page = device.pageLayout()
                             .paintRect(QPageLayout::Point)
                             .translated(-device.pageLayout().paintRect(QPageLayout::Point).topLeft());

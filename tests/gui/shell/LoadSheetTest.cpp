@@ -8,6 +8,7 @@
 #include "shell/LoadSheetPrint.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QMenu>
 #include <QProcess>
 #include <QRegularExpression>
@@ -149,7 +150,7 @@ TEST_F(SheetGui, AnExceededLimitIsPrintedAsExceeded)
     EXPECT_NE(text.find("EXCEEDED by 4615 lb (2093 kg)"), std::string::npos) << text;
 }
 
-TEST_F(SheetGui, FileMenuEndsWithTheLoadSheetOnCtrlP)
+TEST_F(SheetGui, FileMenuEndsWithTheLoadSheetWhichOpensItsPreview)
 {
     LoadFormWindow* window = open(0);
     ASSERT_NE(window, nullptr);
@@ -160,6 +161,17 @@ TEST_F(SheetGui, FileMenuEndsWithTheLoadSheetOnCtrlP)
     EXPECT_TRUE(items[items.size() - 2]->isSeparator());
     EXPECT_EQ(items.back()->text(), "Load &Sheet...");
     EXPECT_EQ(items.back()->shortcut(), QKeySequence(QStringLiteral("Ctrl+P")));
+
+    items.back()->trigger();
+    auto* preview = window->findChild<QDialog*>(QStringLiteral("LoadSheetPreview"));
+    ASSERT_NE(preview, nullptr);
+    EXPECT_TRUE(preview->isVisible());
+    auto* save = preview->findChild<QAction*>(QStringLiteral("mnusheetpdf"));
+    ASSERT_NE(save, nullptr);
+    EXPECT_EQ(save->text(), "Save as PDF...");
+    if (const char* keep = std::getenv("QUILLET_KEEP_SHEETS"))
+        preview->grab().save(QString::fromLocal8Bit(keep) + QStringLiteral("/preview.png"));
+    preview->close();
 }
 
 // The balance pictures' tool tips and accessible descriptions follow the load.
