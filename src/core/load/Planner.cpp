@@ -41,6 +41,8 @@ Stations sortStations(const LoadState& state, const StationGroups& groups)
     const int inUse = std::clamp(state.stationsInUse(), 0, kStationCapacity);
     for (std::size_t g = 0; g < groups.size(); ++g) {
         const StationGroup& group = groups[g];
+        const double groupCap = group.limit > 0 ? std::floor(static_cast<double>(group.limit)) : kUnlimited;
+        s.groupCap.push_back(groupCap);
         if (group.role == StationRole::Crew)
             continue;
         double stationSum = 0;
@@ -60,12 +62,9 @@ Stations sortStations(const LoadState& state, const StationGroups& groups)
             s.cargoCap.push_back(cap);
             stationSum += cap;
         }
-        const double groupCap = group.limit > 0 ? std::floor(static_cast<double>(group.limit)) : kUnlimited;
-        s.groupCap.push_back(groupCap);
         if (group.role == StationRole::Cargo)
             s.capacity += std::min(groupCap, stationSum);
     }
-    s.groupCap.resize(groups.size(), kUnlimited);
     for (int i = 0; i < inUse; ++i) {
         if (!s.planned[i])
             s.fixedWeight += state.stationweight[i];
@@ -297,6 +296,8 @@ struct Frame {
     double fixedX = 0;  // moments of the stations planning leaves alone
     double fixedY = 0;
     double passenger = 0;
+    double bandX = 0;
+    double bandY = 0;
     CargoSplit aft;
     CargoSplit forward;
 };
@@ -308,6 +309,7 @@ struct Fit {
     double errorX = 0;
     double cgY = 0;
     double cargoShare = 0;
+    double outside = 0; // how far the centre lies outside the band, in feet
 };
 
 Fit fitOf(const Frame& f, double seatX, double seatY)
@@ -321,7 +323,21 @@ Fit fitOf(const Frame& f, double seatX, double seatY)
     fit.cargoShare = high - low > 1e-9 ? (got - low) / (high - low) : 0;
     const double cargoY = f.aft.momentY + fit.cargoShare * (f.forward.momentY - f.aft.momentY);
     fit.cgY = (f.fixedY + f.passenger * seatY + cargoY) / f.weight;
+    const double cgX = (f.fixedX + f.passenger * seatX + got) / f.weight;
+    fit.outside = std::max(0.0, std::fabs(cgX) - f.bandX) + std::max(0.0, std::fabs(fit.cgY) - f.bandY);
     return fit;
+}
+
+// Lexicographic, with a margin for rounding.
+bool better(const std::array<double, 3>& a, const std::array<double, 3>& b)
+{
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (a[i] < b[i] - 1e-12)
+            return true;
+        if (a[i] > b[i] + 1e-12)
+            return false;
+    }
+    return false;
 }
 
 long long steps(double feet)
@@ -347,7 +363,7 @@ std::vector<bool> chooseSeats(const LoadState& state, const SeatOrder& order, in
         return i <= 0 || i >= n || starts[static_cast<std::size_t>(i)];
     };
 
-    using Score = std::array<long long, 5>;
+    using Score = std::array<long long, 6>;
     Score best{};
     int bestStart = 0;
     for (int k = 0; k + count <= n; ++k) {
@@ -356,8 +372,8 @@ std::vector<bool> chooseSeats(const LoadState& state, const SeatOrder& order, in
                   sumY[static_cast<std::size_t>(k + count)] - sumY[static_cast<std::size_t>(k)]);
         const int splitRows = !boundary(k, order.rowStart) + !boundary(k + count, order.rowStart);
         const int splitPairs = !boundary(k, order.pairStart) + !boundary(k + count, order.pairStart);
-        const Score score{steps(fit.errorX), steps(fit.cgY), splitPairs, splitRows,
-                          std::abs(2 * k + count - n)};
+        const Score score{fit.outside > 0, steps(fit.errorX), steps(fit.cgY),
+                          splitPairs,      splitRows,         std::abs(2 * k + count - n)};
         if (k == 0 || score < best) {
             best = score;
             bestStart = k;
@@ -373,14 +389,14 @@ std::vector<bool> chooseSeats(const LoadState& state, const SeatOrder& order, in
         sumX[static_cast<std::size_t>(bestStart + count)] - sumX[static_cast<std::size_t>(bestStart)];
     double seatY =
         sumY[static_cast<std::size_t>(bestStart + count)] - sumY[static_cast<std::size_t>(bestStart)];
+    // In balance first, then near the target along, then near the centre line across.
     const auto badness = [&](double x, double y) {
         const Fit fit = fitOf(f, x, y);
-        return std::pair{fit.errorX * 2 < kSameCentre ? 0.0 : fit.errorX, std::fabs(fit.cgY)};
+        return std::array{fit.outside, fit.errorX * 2 < kSameCentre ? 0.0 : fit.errorX, std::fabs(fit.cgY)};
     };
-    const double bandY = centreOfGravity(state).bandY;
     for (int round = 0; round < n; ++round) {
         const auto now = badness(seatX, seatY);
-        if (now.first == 0 && now.second <= bandY)
+        if (now[0] == 0 && now[1] == 0)
             break;
         auto bestMove = now;
         int from = -1;
@@ -395,8 +411,7 @@ std::vector<bool> chooseSeats(const LoadState& state, const SeatOrder& order, in
                 const int b = order.seats[static_cast<std::size_t>(j)];
                 const auto moved = badness(seatX - state.stationx[a] + state.stationx[b],
                                            seatY - state.stationy[a] + state.stationy[b]);
-                if (moved.first < bestMove.first - 1e-12 ||
-                    (moved.first <= bestMove.first + 1e-12 && moved.second < bestMove.second - 1e-12)) {
+                if (better(moved, bestMove)) {
                     bestMove = moved;
                     from = i;
                     to = j;
@@ -488,6 +503,8 @@ Result<Plan> planLoad(const LoadState& state, const StationGroups& groups, const
     f.weight = state.emptyweight + 0.01 + s.fixedWeight + passengers * perPassenger + cargo;
     f.wantedX = request.targetCgX * f.weight;
     f.passenger = perPassenger;
+    f.bandX = now.bandX;
+    f.bandY = now.bandY;
     for (int i = 0; i < kMarkerCapacity; ++i) {
         if (!s.planned[i]) {
             f.fixedX += static_cast<double>(state.stationx[i]) * state.stationweight[i];
