@@ -15,6 +15,6 @@ ensure_packages() {
 }
 
 # What building and testing needs.
-BUILD_PACKAGES=(cmake make g++ qt6-base-dev libgl-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-liberation)
+BUILD_PACKAGES=(cmake make g++ qt6-base-dev libgl-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-liberation poppler-utils)
 # The sanitizer and fuzzing build, and the sources of the decimal-comma locale the tests generate.
 SANITIZER_PACKAGES=(clang libclang-rt-14-dev locales)

@@ -342,7 +342,11 @@ void DC10F::cargocheck()
 
 void DC10F::redraw()
 {
-    Canvas& picture = Picture1();
+    drawDeck(Picture1());
+}
+
+void DC10F::drawDeck(Canvas& picture)
+{
     const LoadState& state = m_session.state;
     const double scale = deckscale;
     picture.clear();

@@ -33,6 +33,8 @@ public:
     std::vector<FocusStation> focusStations() const override;
 
     void redraw();
+    Canvas* deckPicture() override { return &Picture1(); }
+    void drawDeck(Canvas& picture) override;
     void nopass() override;
     void cargocheck();
 

@@ -153,7 +153,11 @@ void Boeing::placeStations()
 
 void Boeing::redraw()
 {
-    Canvas& picture = Picture1();
+    drawDeck(Picture1());
+}
+
+void Boeing::drawDeck(Canvas& picture)
+{
     picture.clear();
     picture.setFont(kPicturePoints, false);
 
@@ -169,12 +173,11 @@ void Boeing::redraw()
         if (jet->checksCargoWhileDrawing)
             cargocheck();
     }
-    fillPass();
+    fillPass(picture);
 }
 
-void Boeing::fillPass()
+void Boeing::fillPass(Canvas& picture)
 {
-    Canvas& picture = Picture1();
     const LoadState& state = m_session.state;
     for (int i = 0; i < personCount(); ++i) {
         if (state.stationweight[i] > 0) {

@@ -35,6 +35,8 @@ public:
     std::vector<FocusStation> focusStations() const override;
 
     void redraw();
+    Canvas* deckPicture() override { return &Picture1(); }
+    void drawDeck(Canvas& picture) override;
     void nopass() override;
     void cargocheck();
 
@@ -55,7 +57,7 @@ private:
     int cargoEnd() const;
     bool isLowerCargo(int station) const;
     void placeStations();
-    void fillPass();
+    void fillPass(Canvas& picture);
     void preset(Seating seating, PresetFactors factors);
     int drawSeat(int seats, bool wantOccupied);
 

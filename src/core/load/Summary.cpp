@@ -28,6 +28,33 @@ std::string totalText(const LoadState& state)
     return "Total weight = " + format0(state.emptyweight + state.loadweight + state.fuelallowance) + " lb.";
 }
 
+namespace {
+
+std::string axisText(double cg, double band, double percent, std::string_view ahead, std::string_view behind)
+{
+    std::string where;
+    // One decimal is what the text shows; a centre that rounds to 0.0 ft sits on the reference.
+    if (std::fabs(cg) < 0.05)
+        where = "at the empty aircraft's";
+    else
+        where = format1(std::fabs(cg)) + " ft " + std::string(cg > 0 ? ahead : behind) +
+                " of the empty aircraft's";
+    return "Centre of gravity " + where + " (allowed: " + format1(band) + " ft either way), " +
+           format0(std::fabs(percent)) + " % of the band";
+}
+
+} // namespace
+
+std::string alongText(const CentreOfGravity& cg)
+{
+    return axisText(cg.x, cg.bandX, cg.percentX, "forward", "aft");
+}
+
+std::string acrossText(const CentreOfGravity& cg)
+{
+    return axisText(cg.y, cg.bandY, cg.percentY, "right", "left");
+}
+
 bool countsContainers(std::string_view type)
 {
     return type == "DC-9-30F" || type == "DC-10-30F" || type == "B757-200F";
@@ -74,6 +101,8 @@ void summary(SummaryForm& form, LoadState& state, std::string_view type)
         labels.warning.foreColor = kRed;
     }
 
+    labels.balanceAlong = alongText(cg);
+    labels.balanceAcross = acrossText(cg);
     balance(cg.maxX, cg.minX, cg.maxY, cg.minY, cg.x, cg.y, kBalanceTolerance, form.Picture4(),
             form.Picture3());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Balance.h"
 #include "LoadState.h"
 #include "platform/Canvas.h"
 #include "platform/Controls.h"
@@ -21,6 +22,9 @@ struct SummaryLabels {
     LabelState lblmaxtow;
     LabelState lblmaxfuel;
     LabelState warning; // hidden while there is nothing to warn of
+    // The tool tips of the two balance pictures (Picture4, Picture3), read by screen readers too.
+    std::string balanceAlong;
+    std::string balanceAcross;
 };
 
 // What the weight summary fills: a load form's summary labels, its two balance pictures and its own
@@ -46,6 +50,12 @@ std::string bowText(const LoadState& state);
 std::string paxText(const LoadState& state);
 std::string fuelText(const LoadState& state);
 std::string totalText(const LoadState& state);
+
+// The centre of gravity on one axis in words, as the balance pictures' tool tips and the load sheet
+// give it: "Centre of gravity 1.3 ft forward of the empty aircraft's (allowed: 2.1 ft either way),
+// 62 % of the band".
+std::string alongText(const CentreOfGravity& cg);
+std::string acrossText(const CentreOfGravity& cg);
 
 // Whether a type counts main-deck containers instead of passengers.
 bool countsContainers(std::string_view type);

@@ -227,17 +227,27 @@ void CRJ200::Picture2_MouseMove(int /*Button*/, int /*Shift*/, double X, double 
 void CRJ200::redraw()
 {
     m_picture2->clear();
+    markLoaded(*m_picture2);
+}
+
+void CRJ200::drawDeck(Canvas& picture)
+{
+    drawCabinView(picture, cabinPlanOf(type()));
+    markLoaded(picture);
+}
+
+void CRJ200::markLoaded(Canvas& map)
+{
     const int last = holdInUse() ? kHold : lastPerson();
     for (int i = 0; i <= last; ++i) {
         if (m_session.state.stationweight[i] > 0)
-            drawSeatDot(i);
+            drawSeatDot(map, i);
     }
 }
 
-void CRJ200::drawSeatDot(int station)
+void CRJ200::drawSeatDot(Canvas& map, int station)
 {
-    drawLoadedDot(*m_picture2, m_session.state.stationpx[station], m_session.state.stationpy[station],
-                  kDotRadius);
+    drawLoadedDot(map, m_session.state.stationpx[station], m_session.state.stationpy[station], kDotRadius);
 }
 
 void CRJ200::eraseSeatDot(int station)

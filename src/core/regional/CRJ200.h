@@ -35,6 +35,8 @@ public:
 
     // Clears the seat map and draws a dot on every loaded station, the hold included.
     void redraw() override;
+    Canvas* deckPicture() override { return &Picture2(); }
+    void drawDeck(Canvas& picture) override;
 
 private:
     // Where every station lies on the seat map, from its position.
@@ -46,7 +48,10 @@ private:
     bool underPoint(int station, double X, double Y) const;
     bool underHold(double X, double Y) const;
 
-    void drawSeatDot(int station);
+    // Marks every loaded station, the hold included.
+    void markLoaded(Canvas& map);
+    void drawSeatDot(int station) { drawSeatDot(*m_picture2, station); }
+    void drawSeatDot(Canvas& map, int station);
     void eraseSeatDot(int station);
     void drawHoldBox();
     void drawInformationBox(int station);

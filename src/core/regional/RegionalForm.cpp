@@ -30,6 +30,23 @@ void RegionalForm::drawCabin()
     drawCabinView(*m_cabin, type());
 }
 
+void RegionalForm::drawDeck(Canvas& picture)
+{
+    drawCabinView(picture, type());
+    for (const Marker& marker : Shape1) {
+        if (!marker.visible)
+            continue;
+        const TwipsRect& r = marker.rect;
+        picture.setFillStyle(marker.fillStyle);
+        picture.setFillColor(marker.fillColor);
+        if (marker.kind == MarkerKind::Circle)
+            picture.circle(r.left + r.width / 2.0, r.top + r.height / 2.0, r.width / 2.0, marker.fillColor);
+        else
+            picture.box(r.left, r.top, r.left + r.width, r.top + r.height, marker.fillColor);
+    }
+    picture.setFillStyle(FillStyle::Transparent);
+}
+
 void RegionalForm::Form_Load()
 {
     setUpType();

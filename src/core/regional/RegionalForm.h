@@ -56,6 +56,9 @@ public:
 
     // Brings every hot spot and marker in line with the station weights.
     void redraw() override;
+    Canvas* deckPicture() override { return &cabin(); }
+    // The cabin with the markers of the loaded stations drawn on it.
+    void drawDeck(Canvas& picture) override;
 
 private:
     void showLoaded(int station);

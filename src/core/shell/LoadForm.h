@@ -92,6 +92,12 @@ public:
     int saves() const { return m_saves; }
     const TimeOfDay& savedAt() const { return m_savedAt; }
 
+    // The picture that shows the deck or cabin (none on a form without one), and the drawing of it
+    // with the loaded stations marked, on that picture or on any other of the same size in twips:
+    // the load sheet draws it again at the printer's resolution.
+    virtual Canvas* deckPicture() { return nullptr; }
+    virtual void drawDeck(Canvas& /*picture*/) {}
+
     bool visible = false;
 
 protected:

@@ -1,8 +1,10 @@
 #include "LoadFormWindow.h"
 
 #include "Application.h"
+#include "LoadSheetPrint.h"
 #include "TargetDialog.h"
 #include "SummaryPanel.h"
+#include "load/LoadSheet.h"
 #include "platform/PictureBox.h"
 #include "platform/StationFocus.h"
 #include "platform/Twips.h"
@@ -11,9 +13,15 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
 #include <QMenu>
 #include <QMenuBar>
 #include <QShortcut>
+#include <QMessageBox>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QToolBar>
 
 namespace quillet {
 
@@ -133,6 +141,7 @@ void LoadFormWindow::buildMenus(const std::vector<Menu>& menus)
     m_redo = addMenuItem(file, {"mnuredo", "&Redo"}, [this] { m_app.handle([this] { m_form.redo(); }); });
     m_redo->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    addSheetItem(file);
 }
 
 void LoadFormWindow::forward(std::string_view name, std::function<void()> handler)
@@ -161,6 +170,56 @@ void LoadFormWindow::showTitle(const QString& caption)
         m_redo->setText(menuText(QStringLiteral("&Redo"), redo));
         m_redo->setEnabled(!redo.empty());
     }
+}
+
+void LoadFormWindow::addSheetItem(QMenu* file)
+{
+    file->addSeparator()->setObjectName(QStringLiteral("mnusheetline"));
+    QAction* action = file->addAction(QStringLiteral("Load &Sheet..."));
+    action->setObjectName(QStringLiteral("mnusheet"));
+    action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_P));
+    connect(action, &QAction::triggered, this, &LoadFormWindow::showLoadSheet);
+}
+
+LoadSheet LoadFormWindow::loadSheet() const
+{
+    const Session& session = m_app.session();
+    return makeLoadSheet(session.state, m_form.stationGroups(), session.currentType(), session.clock.today());
+}
+
+void LoadFormWindow::showLoadSheet()
+{
+    auto* printer = new QPrinter(QPrinter::HighResolution);
+    auto* preview = new QPrintPreviewDialog(printer, this);
+    preview->setObjectName(QStringLiteral("LoadSheetPreview"));
+    preview->setWindowTitle(QStringLiteral("Load Sheet"));
+    preview->setAttribute(Qt::WA_DeleteOnClose);
+    // Room for the whole tool bar, "Save as PDF..." included, and a readable page.
+    preview->resize(860, 900);
+    connect(preview, &QObject::destroyed, this, [printer] { delete printer; });
+    // The sheet is laid out afresh for every page set-up the preview asks for.
+    connect(preview, &QPrintPreviewDialog::paintRequested, this,
+            [this](QPrinter* device) { paintLoadSheet(*device, loadSheet(), m_form); });
+    if (auto* tools = preview->findChild<QToolBar*>()) {
+        tools->addSeparator();
+        QAction* save = tools->addAction(QStringLiteral("Save as PDF..."));
+        save->setObjectName(QStringLiteral("mnusheetpdf"));
+        connect(save, &QAction::triggered, this, [this, preview] { saveLoadSheet(preview); });
+    }
+    preview->open();
+}
+
+void LoadFormWindow::saveLoadSheet(QWidget* parent)
+{
+    const LoadSheet sheet = loadSheet();
+    const QString offered = QDir(QDir::homePath()).filePath(QString::fromStdString(sheet.fileName));
+    const QString file = QFileDialog::getSaveFileName(parent, QStringLiteral("Save as PDF"), offered,
+                                                      QStringLiteral("PDF files (*.pdf)"));
+    if (file.isEmpty())
+        return;
+    if (!saveLoadSheetPdf(file, sheet, m_form))
+        QMessageBox::warning(parent, QStringLiteral("Save as PDF"),
+                             QStringLiteral("The load sheet could not be written to %1.").arg(file));
 }
 
 } // namespace quillet

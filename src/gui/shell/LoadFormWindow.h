@@ -19,6 +19,7 @@ namespace quillet {
 class Application;
 class LoadForm;
 class PictureBox;
+struct LoadSheet;
 
 // The window of a load form: it places the widgets, forwards their events to the form and shows the
 // form's state after each one. Every change of the load it forwards is a step the user can undo.
@@ -41,6 +42,8 @@ public:
     LoadFormWindow(LoadForm& form, Application& app);
 
     LoadForm& form() const { return m_form; }
+    // The load sheet of the form's load as it stands.
+    LoadSheet loadSheet() const;
     // Copies the form's state onto the widgets.
     virtual void sync() = 0;
 
@@ -65,6 +68,13 @@ protected:
     void showTitle(const QString& caption);
     // Lets the keyboard and screen readers load the form's stations on its cabin or decks.
     void loadByKeyboard(PictureBox* picture);
+    // Ends the File menu with a separator and "Load Sheet..." (Ctrl+P), which opens the load sheet's
+    // print preview.
+    void addSheetItem(QMenu* file);
+    // The print preview of the load sheet as the form stands, with "Save as PDF...".
+    void showLoadSheet();
+    // Asks where to save the load sheet as PDF, offering the type string and the date, and saves it.
+    void saveLoadSheet(QWidget* parent);
 
     LoadForm& m_form;
     Application& m_app;

@@ -41,6 +41,8 @@ SummaryPanel::SummaryPanel(QWidget* client, const SummaryLayout& layout, Summary
     place(picture3, layout.Picture3);
     picture3->setCanvas(dynamic_cast<QtCanvas*>(&form.Picture3()));
     nameForScreenReaders(picture3, latin(kLabel3Text));
+    m_picture4 = picture4;
+    m_picture3 = picture3;
 
     QLabel* caption4 = label(client, "Label2", layout.Label2);
     caption4->setText(latin(kLabel2Text));
@@ -102,6 +104,13 @@ void SummaryPanel::sync(const SummaryLabels& labels)
         announce(m_lbltot, m_lbltot->text());
     if (labels.warning.visible && m_warning->text() != warning)
         announce(m_warning, m_warning->text());
+    const auto showBalance = [](QWidget* picture, const std::string& text) {
+        const QString figures = QString::fromStdString(text);
+        picture->setToolTip(figures);
+        picture->setAccessibleDescription(figures);
+    };
+    showBalance(m_picture4, labels.balanceAlong);
+    showBalance(m_picture3, labels.balanceAcross);
 }
 
 } // namespace quillet

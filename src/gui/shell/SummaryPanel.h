@@ -23,12 +23,14 @@ class SummaryPanel {
 public:
     SummaryPanel(QWidget* client, const SummaryLayout& layout, SummaryForm& form);
 
-    // Shows the summary labels as the form holds them.
+    // Shows the summary labels and the balance pictures' tool tips as the form holds them.
     void sync(const SummaryLabels& labels);
 
 private:
     QLabel* label(QWidget* client, const char* name, const TwipsRect& rect);
 
+    QWidget* m_picture4 = nullptr;
+    QWidget* m_picture3 = nullptr;
     QLabel* m_lblbow = nullptr;
     QLabel* m_lblpax = nullptr;
     QLabel* m_lblmf = nullptr;

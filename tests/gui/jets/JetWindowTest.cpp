@@ -59,8 +59,8 @@ TEST_F(JetWindowGui, OpensOnTheB737AndLoadsASeatWithTheMouse)
             menus << (item->isSeparator() ? QStringLiteral("-") : item->text());
     }
     EXPECT_EQ(menus.join('|'),
-              "&File|&Re-load Configuration|&Save configuration|-|&Undo|&Redo|&Auto Load|&Empty Aircraft|-|"
-              "&Light Load|&Medium Load|&Heavy Load|-|Load to &Target...");
+              "&File|&Re-load Configuration|&Save configuration|-|&Undo|&Redo|-|Load &Sheet...|&Auto Load|"
+              "&Empty Aircraft|-|&Light Load|&Medium Load|&Heavy Load|-|Load to &Target...");
 
     // Seat 1A is drawn at (3045, 854) twips: pixel (203, 56.9) of the picture.
     prompt.answer("170");
