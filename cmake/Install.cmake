@@ -24,4 +24,5 @@ add_custom_target(quillet_docs ALL DEPENDS ${docs}/quillet.1.gz ${docs}/changelo
 install(FILES ${docs}/quillet.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${docs}/changelog.gz ${PROJECT_SOURCE_DIR}/package/copyright
     DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/quillet)
-install(FILES ${PROJECT_SOURCE_DIR}/desktop/quillet.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES ${PROJECT_SOURCE_DIR}/desktop/example.c_seed_130c84dc.quillet.metainfo.xml
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)

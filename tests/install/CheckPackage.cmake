@@ -3,10 +3,11 @@
 #   cmake -DDEB=<quillet_<version>_amd64.deb> -P CheckPackage.cmake
 include(${CMAKE_CURRENT_LIST_DIR}/InstalledTree.cmake)
 
+# Runs a command that must succeed; its standard output is left in `out`.
 function(run what)
-    execute_process(COMMAND ${ARGN} RESULT_VARIABLE failed OUTPUT_VARIABLE out ERROR_VARIABLE out)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE failed OUTPUT_VARIABLE out ERROR_VARIABLE err)
     if(failed)
-        message(FATAL_ERROR "${what} failed:\n${out}")
+        message(FATAL_ERROR "${what} failed:\n${out}${err}")
     endif()
     set(out "${out}" PARENT_SCOPE)
 endfunction()
@@ -31,7 +32,7 @@ file(REMOVE_RECURSE ${root})
 run("Unpacking" dpkg-deb -x ${deb} ${root})
 find_program(VALIDATOR desktop-file-validate)
 check_installed_tree(${root}/usr "" "${VALIDATOR}")
-run("appstreamcli" appstreamcli validate --no-net ${root}/usr/share/metainfo/quillet.metainfo.xml)
+run("appstreamcli" appstreamcli validate-tree --no-net ${root})
 
 # The program from the package says the version the package has; offscreen, so it needs no display.
 run("Reading the version" dpkg-deb -f ${deb} Version)

@@ -5,7 +5,7 @@ function(check_installed_tree root exe validator)
     set(expected
         bin/quillet${exe}
         share/applications/quillet.desktop
-        share/metainfo/quillet.metainfo.xml
+        share/metainfo/example.c_seed_130c84dc.quillet.metainfo.xml
         share/man/man1/quillet.1.gz
         share/doc/quillet/copyright
         share/icons/hicolor/scalable/apps/quillet.svg)
