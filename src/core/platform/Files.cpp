@@ -10,10 +10,12 @@
 #include <utility>
 
 #ifdef _WIN32
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
 #include <fcntl.h>
 #include <io.h>
-#include <share.h>
-#include <sys/stat.h>
+#include <windows.h>
 #else
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -49,28 +51,72 @@ std::string lastError()
 // The few calls that differ between systems: a file created only if nothing of its name exists (not
 // even a link), writes, a flush to the disk, and a flush of the folder that records a rename.
 #ifdef _WIN32
+// Windows reports its own error numbers; callers test and word the portable ones.
+void setErrno(DWORD error)
+{
+    switch (error) {
+    case ERROR_FILE_EXISTS:
+    case ERROR_ALREADY_EXISTS:
+        errno = EEXIST;
+        break;
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+        errno = ENOENT;
+        break;
+    case ERROR_ACCESS_DENIED:
+        errno = EACCES;
+        break;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+        errno = ENOSPC;
+        break;
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+        errno = EBUSY; // another program, such as the simulator, holds the file open
+        break;
+    default:
+        errno = EIO;
+    }
+}
+
+HANDLE osHandle(int fd)
+{
+    return reinterpret_cast<HANDLE>(_get_osfhandle(fd));
+}
+
 int openNew(const fs::path& path)
 {
-    int fd = -1;
-    const errno_t error =
-        _wsopen_s(&fd, path.c_str(), _O_CREAT | _O_EXCL | _O_WRONLY | _O_BINARY | _O_NOINHERIT, _SH_DENYNO,
-                  _S_IREAD | _S_IWRITE);
-    if (error != 0) {
-        errno = error;
+    // CREATE_NEW fails when anything of that name exists, a link included; nobody else may open the
+    // file until it is complete.
+    const HANDLE file =
+        CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        setErrno(GetLastError());
         return -1;
     }
+    const int fd = _open_osfhandle(reinterpret_cast<intptr_t>(file), _O_WRONLY | _O_BINARY);
+    if (fd < 0)
+        CloseHandle(file);
     return fd;
 }
 
 long long writeSome(int fd, const char* data, std::size_t size)
 {
-    const unsigned chunk = size > (1u << 30) ? (1u << 30) : static_cast<unsigned>(size);
-    return _write(fd, data, chunk);
+    const DWORD chunk = size > (1u << 30) ? (1u << 30) : static_cast<DWORD>(size);
+    DWORD written = 0;
+    if (!WriteFile(osHandle(fd), data, chunk, &written, nullptr)) {
+        setErrno(GetLastError());
+        return -1;
+    }
+    return written;
 }
 
 bool syncFile(int fd)
 {
-    return _commit(fd) == 0;
+    if (FlushFileBuffers(osHandle(fd)))
+        return true;
+    setErrno(GetLastError());
+    return false;
 }
 
 bool closeFile(int fd)
@@ -81,8 +127,31 @@ bool closeFile(int fd)
 // Windows keeps only the read-only attribute, which a file we may replace does not have.
 void copyPermissions(int, fs::perms) {}
 
-// NTFS journals the rename itself; a folder cannot be opened for flushing.
+// The C library's rename refuses to replace an existing file here. MoveFileExW replaces it in one
+// step, and with WRITE_THROUGH returns only once the rename is on the disk, which is what flushing
+// the folder does elsewhere. A file another program has open cannot be replaced; virus scanners and
+// the simulator itself hold files for a moment, so it is tried again for up to half a second.
+std::error_code replaceFile(const fs::path& from, const fs::path& to)
+{
+    for (int attempt = 0;; ++attempt) {
+        if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            return {};
+        const DWORD error = GetLastError();
+        const bool held = error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION;
+        if (!held || attempt == 10) {
+            setErrno(error);
+            return {errno, std::generic_category()};
+        }
+        Sleep(50);
+    }
+}
+
 void syncFolder(const fs::path&) {}
+
+std::FILE* openForReading(const fs::path& path)
+{
+    return _wfopen(path.c_str(), L"rb");
+}
 #else
 int openNew(const fs::path& path)
 {
@@ -111,6 +180,18 @@ bool closeFile(int fd)
 void copyPermissions(int fd, fs::perms perms)
 {
     (void)::fchmod(fd, static_cast<mode_t>(perms & fs::perms::mask));
+}
+
+std::error_code replaceFile(const fs::path& from, const fs::path& to)
+{
+    std::error_code ec;
+    fs::rename(from, to, ec);
+    return ec;
+}
+
+std::FILE* openForReading(const fs::path& path)
+{
+    return std::fopen(path.c_str(), "rb");
 }
 
 // The rename lives in the folder: until the folder is flushed, a power cut may undo it.
@@ -150,7 +231,7 @@ fs::path temporaryFor(const fs::path& path)
     static std::mt19937_64 generator{std::random_device{}()};
     char suffix[17];
     std::snprintf(suffix, sizeof suffix, "%016llx", static_cast<unsigned long long>(generator()));
-    return folderOf(path) / ("." + path.filename().string() + "." + suffix + ".quillet-new");
+    return folderOf(path) / pathFromUtf8("." + utf8Of(path.filename()) + "." + suffix + ".quillet-new");
 }
 
 std::optional<std::string> whyNotText(std::string_view bytes)
@@ -215,7 +296,7 @@ Result<std::string> Files::read(const fs::path& path, std::uintmax_t maxBytes) c
                                  " bytes; at most " + std::to_string(maxBytes) + " are accepted)");
     }
 
-    std::FILE* file = std::fopen(path.string().c_str(), "rb");
+    std::FILE* file = openForReading(path);
     if (!file)
         return failure(path, "could not be opened: " + lastError());
     // Read to the end rather than trusting the size: the file may change while we read it.
@@ -287,7 +368,7 @@ Status Files::commit(PendingFile& pending) const
     if (m_renamesLeft && (*m_renamesLeft)-- <= 0)
         ec = std::make_error_code(std::errc::device_or_resource_busy);
     else
-        fs::rename(pending.m_temp, target, ec);
+        ec = replaceFile(pending.m_temp, target);
     if (ec) {
         pending.discard();
         return failure(target, "could not be replaced: " + reason(ec) +
