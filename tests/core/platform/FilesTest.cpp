@@ -2,6 +2,7 @@
 
 #include "TempDir.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -146,6 +147,41 @@ TEST(Files, CopyIfAbsentNeverReplaces)
     dir.write("aircraft.cfg", "second");
     ASSERT_TRUE(Files().copyIfAbsent(from, to));
     EXPECT_EQ(TempDir::readFile(to), "first");
+}
+
+// A user called Zoë: the folder's name reaches the system intact, for the temporary file too.
+TEST(Files, SavesIntoAFolderWithANonAsciiName)
+{
+    TempDir dir;
+    const fs::path folder = dir.path() / u8"Zo\u00EB \u03A9"; // the omega is in no Western code page
+    fs::create_directories(folder);
+    const fs::path file = folder / "aircraft.cfg";
+    Files files;
+    ASSERT_TRUE(files.replace(file, "first"));
+    ASSERT_TRUE(files.replace(file, "second"));
+    auto read = files.read(file, 100);
+    ASSERT_TRUE(read) << read.error().message;
+    EXPECT_EQ(read.value(), "second");
+    EXPECT_EQ(namesIn(folder), std::set<std::string>{"aircraft.cfg"});
+}
+
+TEST(Files, AFileAnotherProgramHoldsOpen)
+{
+    TempDir dir;
+    const auto file = dir.write("aircraft.cfg", "old");
+    std::ifstream reader(file, std::ios::binary); // as the simulator may hold it
+    const auto saved = Files().replace(file, "new");
+#ifdef _WIN32
+    // Windows replaces no file that another program has open: the save is refused whole.
+    ASSERT_FALSE(saved);
+    EXPECT_NE(saved.error().message.find("the old file was kept"), std::string::npos) << saved.error().message;
+    reader.close();
+    EXPECT_EQ(TempDir::readFile(file), "old");
+    EXPECT_EQ(namesIn(dir.path()), std::set<std::string>{"aircraft.cfg"}) << "no temporary file is left";
+#else
+    ASSERT_TRUE(saved);
+    EXPECT_EQ(TempDir::readFile(file), "new") << "the reader keeps the old bytes, the name has the new ones";
+#endif
 }
 
 } // namespace
