@@ -1,8 +1,9 @@
 // An aircraft.cfg as another program or the user may leave it: the reader buffers it and measures
-// its weight and balance section, the writer saves into a folder of its own. Whatever the bytes,
-// nothing crashes; a file that was read is saved unless its section cannot be replaced cleanly (and
-// then it is left as it was), every line before the section comes back unchanged, and saving the
-// saved file again changes nothing.
+// its weight and balance section, the writer saves it into a folder held in memory. Whatever the
+// bytes, nothing crashes. A file that was read is saved unless its section cannot be replaced cleanly
+// or the saved file would hold more lines or bytes than the reader takes back; then it is left as it
+// was and the user is told which of these it is. Every line before the section comes back unchanged,
+// and saving the saved file again changes nothing.
 
 #include "FuzzCheck.h"
 #include "cfgfile/AircraftFile.h"
@@ -10,64 +11,23 @@
 #include "cfgfile/inputoutput.h"
 #include "core/cfgfile/SmallType.h"
 #include "load/Session.h"
+#include "platform/MemoryFileSystem.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <random>
 #include <string>
 #include <string_view>
-
-namespace fs = std::filesystem;
 
 namespace {
 
 const std::string kType = "Beech 1900D";
-
-// One folder for the whole run, removed at its end.
-class RunFolder {
-public:
-    RunFolder()
-    {
-        std::random_device seed;
-        path = fs::temp_directory_path() / ("quillet-fuzz-cfg-" + std::to_string(seed()));
-        fs::create_directories(path / "fs2000" / "aircraft" / "beech");
-    }
-    ~RunFolder()
-    {
-        std::error_code ec;
-        fs::remove_all(path, ec);
-    }
-    RunFolder(const RunFolder&) = delete;
-    RunFolder& operator=(const RunFolder&) = delete;
-
-    fs::path path;
-};
-
-const fs::path& folder()
-{
-    static const RunFolder run;
-    return run.path;
-}
-
-void writeFile(const fs::path& path, std::string_view bytes)
-{
-    std::ofstream(path, std::ios::binary | std::ios::trunc)
-        .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-}
-
-std::string readFile(const fs::path& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
+const std::filesystem::path kRoot = "/quillet";
+const std::filesystem::path kCfg = kRoot / "fs2000/aircraft/beech/aircraft.cfg";
 
 void setUp(quillet::Session& session)
 {
     quillet::LoadState& s = session.state;
-    s.simfolder = (folder() / "fs2000").string();
+    s.simfolder = (kRoot / "fs2000").string();
     s.nmenu = 1;
     s.menutype[0] = kType;
     s.menufolder[0] = "beech";
@@ -75,35 +35,61 @@ void setUp(quillet::Session& session)
     session.currentType = [] { return kType; };
 }
 
+bool told(const quillet::Session& session, std::string_view part)
+{
+    for (const std::string& message : session.messages.pending()) {
+        if (message.find(part) != std::string::npos)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    const fs::path cfg = folder() / "fs2000" / "aircraft" / "beech" / "aircraft.cfg";
-    writeFile(cfg, bytes);
+    quillet::MemoryFileSystem disk;
+    disk.addFolder(kRoot / "program");
+    disk.put(kCfg, bytes);
 
     quillet::ScriptedPrompt prompt;
     quillet::ScriptedRandom random;
     const quillet::FixedClock clock{quillet::Date{2001, 3, 7}};
-    quillet::Session session(prompt, random, clock, folder());
+    quillet::Session session(prompt, random, clock, kRoot / "program");
+    session.files = quillet::Files(disk);
     setUp(session);
     const auto buffer = quillet::bufferAircraftFile(bytes, quillet::kCfgLineCapacity);
     const bool read = static_cast<bool>(quillet::readcfg(session));
     QUILLET_FUZZ_CHECK(read == static_cast<bool>(buffer));
     if (!read)
         return 0;
+    QUILLET_FUZZ_CHECK(disk.get(kCfg.parent_path() / "aircraft.cfg.bak") == std::string(bytes));
     session.state.stationweight[2] = 170;
     session.state.loadweight = 170;
-    // A file whose section the block cannot replace cleanly is refused, and left as it was.
-    const bool fits = static_cast<bool>(
-        quillet::checkSection(buffer.value().lines, buffer.value().sectionlines, "aircraft.cfg"));
-    QUILLET_FUZZ_CHECK(static_cast<bool>(quillet::writecfg(session)) == fits);
-    if (!fits) {
-        QUILLET_FUZZ_CHECK(readFile(cfg) == bytes);
+    session.messages.take();
+
+    // What the writer must refuse: a section it cannot replace cleanly, or a saved file too large
+    // for the reader.
+    const auto& lines = buffer.value().lines;
+    const int sectionlines = buffer.value().sectionlines;
+    const auto fits = quillet::checkSection(lines, sectionlines, "\"" + kCfg.string() + "\"");
+    const auto block = quillet::weightAndBalanceBlock(session.state, kType, clock.today());
+    const std::string expected = fits ? quillet::rewriteAircraftFile(lines, sectionlines, block) : "";
+    const bool tooManyLines = quillet::splitLines(expected).size() > quillet::kCfgLineCapacity;
+    const bool tooLarge = expected.size() > quillet::kMaxFileBytes;
+
+    const bool saved = static_cast<bool>(quillet::writecfg(session));
+    QUILLET_FUZZ_CHECK(saved == (fits && !tooManyLines && !tooLarge));
+    if (!saved) {
+        QUILLET_FUZZ_CHECK(disk.get(kCfg) == std::string(bytes));
+        QUILLET_FUZZ_CHECK(
+            !fits ? told(session, fits.error().message)
+                  : told(session, tooManyLines ? " lines, more than the " : " bytes, more than the "));
         return 0;
     }
-    const std::string saved = readFile(cfg);
+    const std::string written = disk.get(kCfg).value_or("");
+    QUILLET_FUZZ_CHECK(written == expected);
 
     std::string kept;
     for (const std::string& line : quillet::splitLines(bytes)) {
@@ -111,15 +97,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (quillet::isSectionHeader(line))
             break;
     }
-    QUILLET_FUZZ_CHECK(saved.compare(0, kept.size(), kept) == 0);
+    QUILLET_FUZZ_CHECK(written.compare(0, kept.size(), kept) == 0);
 
-    // Saving the saved file again changes nothing (the buffer may be too small for it now).
-    const auto again = quillet::bufferAircraftFile(saved, quillet::kCfgLineCapacity);
-    if (!again)
-        return 0;
+    // Saving the saved file again changes nothing.
+    const auto again = quillet::bufferAircraftFile(written, quillet::kCfgLineCapacity);
+    QUILLET_FUZZ_CHECK(again);
     QUILLET_FUZZ_CHECK(again.value().sectionlines > 0);
-    const auto block = quillet::weightAndBalanceBlock(session.state, kType, clock.today());
     QUILLET_FUZZ_CHECK(quillet::rewriteAircraftFile(again.value().lines, again.value().sectionlines, block) ==
-                       saved);
+                       written);
     return 0;
 }

@@ -16,9 +16,6 @@ namespace quillet {
 
 namespace {
 
-// Far above any real aircraft.cfg or station file; anything larger is not one.
-constexpr std::uintmax_t kMaxFileBytes = 1 << 20;
-
 std::string quoted(const fs::path& path)
 {
     std::string text = displayPath(path);
@@ -40,12 +37,12 @@ Result<fs::path> aircraftFile(const Session& session, const std::string& type)
                      "\" is not a single folder name inside the simulator's aircraft folder."};
     }
     return resolvePath(session.state.simfolder + "\\aircraft\\" + *folder + "\\aircraft.cfg",
-                       session.programFolder);
+                       session.programFolder, session.files.system());
 }
 
 fs::path stationFile(const Session& session, const std::string& type)
 {
-    return resolvePath(type + ".cfg", session.programFolder);
+    return resolvePath(type + ".cfg", session.programFolder, session.files.system());
 }
 
 void fillBuffer(LoadState& state, const AircraftLines& buffer)
@@ -77,7 +74,7 @@ Status readFiles(Session& session, const std::string& type)
 
     const fs::path stationPath = stationFile(session, type);
     std::optional<LoadState> stored;
-    if (fileExists(type + ".cfg", session.programFolder)) {
+    if (fileExists(type + ".cfg", session.programFolder, session.files.system())) {
         auto text = session.files.read(stationPath, kMaxFileBytes);
         if (!text)
             return Error{text.error().message + notRead};
@@ -180,21 +177,24 @@ Status writeFiles(Session& session)
     }
 
     // Both files are written out before either replaces its old one, so that a save does not stop
-    // half-way for a reason that could be known beforehand.
+    // half-way for a reason that could be known beforehand; both are renamed before their folders are
+    // flushed, so that the simulator's file and ours change as close together as the system allows.
     auto newCfg = session.files.prepare(cfgPath, text);
     if (!newCfg)
         return Error{"Nothing was saved: " + newCfg.error().message};
     auto newStations = session.files.prepare(stationFile(session, type), stationFileText(state));
     if (!newStations)
         return Error{"Nothing was saved: " + newStations.error().message};
-    if (auto renamed = session.files.commit(newCfg.value()); !renamed)
+    if (auto renamed = session.files.rename(newCfg.value()); !renamed)
         return Error{"Nothing was saved: " + renamed.error().message};
     source.bytes = std::move(text);
-    if (auto renamed = session.files.commit(newStations.value()); !renamed) {
+    const Status stationsRenamed = session.files.rename(newStations.value());
+    session.files.finish({&newCfg.value(), &newStations.value()});
+    if (!stationsRenamed) {
         return Error{quoted(cfgPath) +
                      " was saved: the simulator now flies the new load. But the station file "
                      "was not: " +
-                     renamed.error().message + " The load Quillet keeps for \"" + type +
+                     stationsRenamed.error().message + " The load Quillet keeps for \"" + type +
                      "\" is still the previous one; save again to store the new one."};
     }
     return success();

@@ -3,7 +3,12 @@
 #include "load/Session.h"
 #include "platform/Result.h"
 
+#include <cstdint>
+
 namespace quillet {
+
+// Far above any real aircraft.cfg or station file; anything larger is not one, and is never written.
+inline constexpr std::uintmax_t kMaxFileBytes = 1 << 20;
 
 // The aircraft file interface of the current type (session.currentType()).
 

@@ -2,31 +2,20 @@
 
 #include "Paths.h"
 
-#include <cerrno>
+#include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <random>
-#include <system_error>
 #include <utility>
-
-#ifdef _WIN32
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <fcntl.h>
-#include <io.h>
-#include <windows.h>
-#else
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
+#include <vector>
 
 namespace fs = std::filesystem;
 
 namespace quillet {
 
 namespace {
+
+constexpr std::string_view kTemporaryEnd = ".quillet-new";
+constexpr std::size_t kTemporaryDigits = 16;
 
 std::string quoted(const fs::path& path)
 {
@@ -38,189 +27,47 @@ Error failure(const fs::path& path, const std::string& what)
     return Error{quoted(path) + " " + what + "."};
 }
 
-std::string reason(const std::error_code& ec)
-{
-    return ec.message();
-}
-
-std::string lastError()
-{
-    return std::strerror(errno);
-}
-
-// The few calls that differ between systems: a file created only if nothing of its name exists (not
-// even a link), writes, a flush to the disk, and a flush of the folder that records a rename.
-#ifdef _WIN32
-// Windows reports its own error numbers; callers test and word the portable ones.
-void setErrno(DWORD error)
-{
-    switch (error) {
-    case ERROR_FILE_EXISTS:
-    case ERROR_ALREADY_EXISTS:
-        errno = EEXIST;
-        break;
-    case ERROR_FILE_NOT_FOUND:
-    case ERROR_PATH_NOT_FOUND:
-        errno = ENOENT;
-        break;
-    case ERROR_ACCESS_DENIED:
-        errno = EACCES;
-        break;
-    case ERROR_DISK_FULL:
-    case ERROR_HANDLE_DISK_FULL:
-        errno = ENOSPC;
-        break;
-    case ERROR_SHARING_VIOLATION:
-    case ERROR_LOCK_VIOLATION:
-        errno = EBUSY; // another program, such as the simulator, holds the file open
-        break;
-    default:
-        errno = EIO;
-    }
-}
-
-HANDLE osHandle(int fd)
-{
-    return reinterpret_cast<HANDLE>(_get_osfhandle(fd));
-}
-
-int openNew(const fs::path& path)
-{
-    // CREATE_NEW fails when anything of that name exists, a link included; nobody else may open the
-    // file until it is complete.
-    const HANDLE file =
-        CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
-        setErrno(GetLastError());
-        return -1;
-    }
-    const int fd = _open_osfhandle(reinterpret_cast<intptr_t>(file), _O_WRONLY | _O_BINARY);
-    if (fd < 0)
-        CloseHandle(file);
-    return fd;
-}
-
-long long writeSome(int fd, const char* data, std::size_t size)
-{
-    const DWORD chunk = size > (1u << 30) ? (1u << 30) : static_cast<DWORD>(size);
-    DWORD written = 0;
-    if (!WriteFile(osHandle(fd), data, chunk, &written, nullptr)) {
-        setErrno(GetLastError());
-        return -1;
-    }
-    return written;
-}
-
-bool syncFile(int fd)
-{
-    if (FlushFileBuffers(osHandle(fd)))
-        return true;
-    setErrno(GetLastError());
-    return false;
-}
-
-bool closeFile(int fd)
-{
-    return _close(fd) == 0;
-}
-
-// Windows keeps only the read-only attribute, which a file we may replace does not have.
-void copyPermissions(int, fs::perms) {}
-
-// The C library's rename refuses to replace an existing file here. MoveFileExW replaces it in one
-// step, and with WRITE_THROUGH returns only once the rename is on the disk, which is what flushing
-// the folder does elsewhere. A file another program has open cannot be replaced; virus scanners and
-// the simulator itself hold files for a moment, so it is tried again for up to half a second.
-std::error_code replaceFile(const fs::path& from, const fs::path& to)
-{
-    for (int attempt = 0;; ++attempt) {
-        if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-            return {};
-        const DWORD error = GetLastError();
-        const bool held = error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION;
-        if (!held || attempt == 10) {
-            setErrno(error);
-            return {errno, std::generic_category()};
-        }
-        Sleep(50);
-    }
-}
-
-void syncFolder(const fs::path&) {}
-
-std::FILE* openForReading(const fs::path& path)
-{
-    return _wfopen(path.c_str(), L"rb");
-}
-#else
-int openNew(const fs::path& path)
-{
-    int fd = -1;
-    do {
-        fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
-    } while (fd < 0 && errno == EINTR);
-    return fd;
-}
-
-long long writeSome(int fd, const char* data, std::size_t size)
-{
-    return ::write(fd, data, size);
-}
-
-bool syncFile(int fd)
-{
-    return ::fsync(fd) == 0;
-}
-
-bool closeFile(int fd)
-{
-    return ::close(fd) == 0;
-}
-
-void copyPermissions(int fd, fs::perms perms)
-{
-    (void)::fchmod(fd, static_cast<mode_t>(perms & fs::perms::mask));
-}
-
-std::error_code replaceFile(const fs::path& from, const fs::path& to)
-{
-    std::error_code ec;
-    fs::rename(from, to, ec);
-    return ec;
-}
-
-std::FILE* openForReading(const fs::path& path)
-{
-    return std::fopen(path.c_str(), "rb");
-}
-
-// The rename lives in the folder: until the folder is flushed, a power cut may undo it.
-void syncFolder(const fs::path& folder)
-{
-    const int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0)
-        return;
-    (void)::fsync(fd); // some file systems cannot; the file itself is on the disk already
-    ::close(fd);
-}
-#endif
-
-bool writeAll(int fd, std::string_view bytes)
-{
-    while (!bytes.empty()) {
-        const long long written = writeSome(fd, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
-
 fs::path folderOf(const fs::path& path)
 {
     return path.parent_path().empty() ? fs::path(".") : path.parent_path();
+}
+
+// The file a save of `path` replaces: the path itself, or the file its links lead to. Replacing the
+// link itself would leave its target, the file other programs read, silently stale.
+Result<fs::path> fileBehind(const FileSystem& system, const fs::path& path)
+{
+    fs::path current = path;
+    for (int hop = 0; hop < 40; ++hop) {
+        std::error_code ec;
+        const FileStatus entry = system.linkStatus(current, ec);
+        if (ec)
+            return failure(path, "could not be looked at: " + ec.message());
+        if (!entry.isLink())
+            return current;
+        const fs::path target = system.readLink(current, ec);
+        if (ec)
+            return failure(path, "is a link that could not be read: " + ec.message());
+        current = target.is_absolute() ? target : folderOf(current) / target;
+        if (!system.status(current, ec).exists() && !ec)
+            return failure(path, "is a link to " + quoted(target) + ", which does not exist");
+    }
+    return failure(path, "is a link that leads round in a circle");
+}
+
+// Removes the temporary files that saves of `file` left when they were stopped before their rename:
+// only regular files of our own pattern, never a link of such a name.
+void removeLeftovers(FileSystem& system, const fs::path& file)
+{
+    const fs::path folder = folderOf(file);
+    const std::string name = utf8Of(file.filename());
+    for (const std::string& entry : system.list(folder)) {
+        if (!isTemporaryOf(entry, name))
+            continue;
+        std::error_code ec;
+        const fs::path leftover = folder / pathFromUtf8(entry);
+        if (system.linkStatus(leftover, ec).isFile() && !ec)
+            (void)system.remove(leftover);
+    }
 }
 
 } // namespace
@@ -228,10 +75,22 @@ fs::path folderOf(const fs::path& path)
 fs::path temporaryFor(const fs::path& path)
 {
     // Its own generator: the program's one random generator draws the presets, and must not be moved.
+    // A name only has to differ from those of other saves; nothing depends on its digits.
     static std::mt19937_64 generator{std::random_device{}()};
-    char suffix[17];
+    char suffix[kTemporaryDigits + 1];
     std::snprintf(suffix, sizeof suffix, "%016llx", static_cast<unsigned long long>(generator()));
-    return folderOf(path) / pathFromUtf8("." + utf8Of(path.filename()) + "." + suffix + ".quillet-new");
+    return folderOf(path) / pathFromUtf8("." + utf8Of(path.filename()) + "." + suffix + std::string(kTemporaryEnd));
+}
+
+bool isTemporaryOf(std::string_view entry, std::string_view name)
+{
+    const std::size_t size = 1 + name.size() + 1 + kTemporaryDigits + kTemporaryEnd.size();
+    if (entry.size() != size || entry[0] != '.' || entry.substr(1, name.size()) != name ||
+        entry[1 + name.size()] != '.' || !entry.ends_with(kTemporaryEnd))
+        return false;
+    const std::string_view digits = entry.substr(2 + name.size(), kTemporaryDigits);
+    return std::all_of(digits.begin(), digits.end(),
+                       [](char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f'); });
 }
 
 std::optional<std::string> whyNotText(std::string_view bytes)
@@ -250,8 +109,8 @@ std::optional<std::string> whyNotText(std::string_view bytes)
 }
 
 PendingFile::PendingFile(PendingFile&& other) noexcept
-    : m_target(std::move(other.m_target)), m_temp(std::exchange(other.m_temp, {})),
-      m_targetExisted(other.m_targetExisted)
+    : m_system(other.m_system), m_target(std::move(other.m_target)), m_temp(std::exchange(other.m_temp, {})),
+      m_targetExisted(other.m_targetExisted), m_renamed(std::exchange(other.m_renamed, false))
 {
 }
 
@@ -259,9 +118,11 @@ PendingFile& PendingFile::operator=(PendingFile&& other) noexcept
 {
     if (this != &other) {
         discard();
+        m_system = other.m_system;
         m_target = std::move(other.m_target);
         m_temp = std::exchange(other.m_temp, {});
         m_targetExisted = other.m_targetExisted;
+        m_renamed = std::exchange(other.m_renamed, false);
     }
     return *this;
 }
@@ -275,85 +136,75 @@ void PendingFile::discard()
 {
     if (m_temp.empty())
         return;
-    std::error_code ec;
-    fs::remove(m_temp, ec);
+    (void)m_system->remove(m_temp);
     m_temp.clear();
+}
+
+bool Files::exists(const fs::path& path) const
+{
+    std::error_code ec;
+    return m_system->status(path, ec).isFile();
 }
 
 Result<std::string> Files::read(const fs::path& path, std::uintmax_t maxBytes) const
 {
     std::error_code ec;
-    const auto status = fs::status(path, ec);
-    if (ec || !fs::exists(status))
+    const FileStatus status = m_system->status(path, ec);
+    if (ec || !status.exists())
         return failure(path, "does not exist");
-    if (fs::is_directory(status))
+    if (status.isFolder())
         return failure(path, "is a folder, not a file");
-    const std::uintmax_t size = fs::file_size(path, ec);
-    if (ec)
-        return failure(path, "could not be read: " + reason(ec));
-    if (size > maxBytes) {
-        return failure(path, "is too large to be the expected file (" + std::to_string(size) +
+    if (status.size > maxBytes) {
+        return failure(path, "is too large to be the expected file (" + std::to_string(status.size) +
                                  " bytes; at most " + std::to_string(maxBytes) + " are accepted)");
     }
-
-    std::FILE* file = openForReading(path);
-    if (!file)
-        return failure(path, "could not be opened: " + lastError());
-    // Read to the end rather than trusting the size: the file may change while we read it.
     std::string bytes;
-    char chunk[65536];
-    std::size_t got = 0;
-    while ((got = std::fread(chunk, 1, sizeof chunk, file)) > 0) {
-        bytes.append(chunk, got);
-        if (bytes.size() > maxBytes) {
-            std::fclose(file);
-            return failure(path, "is too large to be the expected file");
-        }
-    }
-    const bool failed = std::ferror(file) != 0;
-    std::fclose(file);
-    if (failed)
-        return failure(path, "could not be read");
+    ec = m_system->read(path, maxBytes, bytes);
+    if (ec == std::errc::file_too_large)
+        return failure(path, "is too large to be the expected file");
+    if (ec)
+        return failure(path, "could not be read: " + ec.message());
     return bytes;
 }
 
 Result<PendingFile> Files::prepare(const fs::path& path, std::string_view bytes) const
 {
+    auto behind = fileBehind(*m_system, path);
+    if (!behind)
+        return behind.error();
+    const fs::path target = std::move(behind).value();
     std::error_code ec;
-    const auto status = fs::status(path, ec);
-    const bool exists = !ec && fs::exists(status);
-    if (exists && fs::is_directory(status))
+    const FileStatus status = m_system->status(target, ec);
+    const bool exists = !ec && status.exists();
+    if (exists && status.isFolder())
         return failure(path, "is a folder, so it cannot be written");
-    if (exists && (status.permissions() & fs::perms::owner_write) == fs::perms::none)
+    if (exists && (status.permissions & fs::perms::owner_write) == fs::perms::none)
         return failure(path, "is read-only, so it was not changed");
-    const fs::path folder = folderOf(path);
-    if (!fs::is_directory(folder, ec))
+    const fs::path folder = folderOf(target);
+    if (!m_system->status(folder, ec).isFolder())
         return failure(path, "cannot be written: its folder " + quoted(folder) + " does not exist");
 
     PendingFile pending;
-    int fd = -1;
-    for (int attempt = 0; attempt < 100 && fd < 0; ++attempt) {
-        pending.m_temp = temporaryFor(path);
-        fd = openNew(pending.m_temp);
-        if (fd < 0 && errno != EEXIST)
+    pending.m_system = m_system;
+    FileSystem::Handle handle = -1;
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        pending.m_temp = temporaryFor(target);
+        ec = m_system->create(pending.m_temp, handle);
+        if (ec != std::errc::file_exists)
             break;
     }
-    if (fd < 0) {
+    if (ec) {
         pending.m_temp.clear();
-        return failure(path, "could not be written: " + lastError());
+        return failure(path, "could not be written: " + ec.message());
     }
-    pending.m_target = path;
+    pending.m_target = target;
     pending.m_targetExisted = exists;
 
-    std::string_view toWrite = bytes;
-    const bool full = m_failAfter && *m_failAfter < bytes.size();
-    if (full)
-        toWrite = bytes.substr(0, static_cast<std::size_t>(*m_failAfter));
-    bool ok = writeAll(fd, toWrite) && !full;
+    bool ok = !m_system->write(handle, bytes);
     if (exists)
-        copyPermissions(fd, status.permissions());
-    ok = syncFile(fd) && ok;
-    ok = closeFile(fd) && ok;
+        (void)m_system->setPermissions(handle, status.permissions);
+    ok = !m_system->sync(handle) && ok;
+    ok = !m_system->close(handle) && ok;
     if (!ok) {
         return failure(path, std::string("could not be written completely (is the disk full?)") +
                                  (exists ? "; the old file was kept" : ""));
@@ -361,22 +212,43 @@ Result<PendingFile> Files::prepare(const fs::path& path, std::string_view bytes)
     return pending;
 }
 
-Status Files::commit(PendingFile& pending) const
+Status Files::rename(PendingFile& pending) const
 {
-    const fs::path& target = pending.m_target;
-    std::error_code ec;
-    if (m_renamesLeft && (*m_renamesLeft)-- <= 0)
-        ec = std::make_error_code(std::errc::device_or_resource_busy);
-    else
-        ec = replaceFile(pending.m_temp, target);
+    const std::error_code ec = m_system->rename(pending.m_temp, pending.m_target);
     if (ec) {
         pending.discard();
-        return failure(target, "could not be replaced: " + reason(ec) +
-                                   (pending.m_targetExisted ? "; the old file was kept" : ""));
+        return failure(pending.m_target, "could not be replaced: " + ec.message() +
+                                             (pending.m_targetExisted ? "; the old file was kept" : ""));
     }
     pending.m_temp.clear();
-    syncFolder(folderOf(target));
+    pending.m_renamed = true;
     return success();
+}
+
+void Files::finish(std::initializer_list<PendingFile*> renamed) const
+{
+    // The renames live in the folders: until these are flushed, a power cut may undo them.
+    std::vector<fs::path> folders;
+    for (const PendingFile* file : renamed) {
+        const fs::path folder = folderOf(file->m_target);
+        if (file->m_renamed && std::find(folders.begin(), folders.end(), folder) == folders.end())
+            folders.push_back(folder);
+    }
+    for (const fs::path& folder : folders)
+        (void)m_system->syncFolder(folder); // some file systems cannot; the files are on the disk already
+    for (PendingFile* file : renamed) {
+        if (file->m_renamed)
+            removeLeftovers(*m_system, file->m_target);
+        file->m_renamed = false;
+    }
+}
+
+Status Files::commit(PendingFile& pending) const
+{
+    Status renamed = rename(pending);
+    if (renamed)
+        finish({&pending});
+    return renamed;
 }
 
 Status Files::replace(const fs::path& path, std::string_view bytes) const
@@ -390,19 +262,18 @@ Status Files::replace(const fs::path& path, std::string_view bytes) const
 Status Files::createIfAbsent(const fs::path& path, std::string_view bytes) const
 {
     std::error_code ec;
-    const auto entry = fs::symlink_status(path, ec);
-    if (ec && entry.type() == fs::file_type::none)
-        return failure(path, "could not be looked at: " + reason(ec));
-    if (fs::exists(entry)) {
-        const auto target = fs::status(path, ec);
-        if (fs::is_regular_file(target))
+    const FileStatus entry = m_system->linkStatus(path, ec);
+    if (ec)
+        return failure(path, "could not be looked at: " + ec.message());
+    if (entry.exists()) {
+        const FileStatus target = m_system->status(path, ec);
+        if (target.isFile())
             return success();
-        if (fs::is_directory(target))
+        if (target.isFolder())
             return failure(path, "is a folder, not a file");
-        if (fs::is_symlink(entry) && !fs::exists(target)) {
+        if (entry.isLink() && !target.exists())
             return failure(path,
-                           "is a link to " + quoted(fs::read_symlink(path, ec)) + ", which does not exist");
-        }
+                           "is a link to " + quoted(m_system->readLink(path, ec)) + ", which does not exist");
         return failure(path, "is not a plain file");
     }
     return replace(path, bytes);
@@ -410,8 +281,7 @@ Status Files::createIfAbsent(const fs::path& path, std::string_view bytes) const
 
 Status Files::copyIfAbsent(const fs::path& from, const fs::path& to) const
 {
-    std::error_code ec;
-    if (fs::is_regular_file(to, ec))
+    if (exists(to))
         return success();
     auto bytes = read(from, static_cast<std::uintmax_t>(-1));
     if (!bytes)

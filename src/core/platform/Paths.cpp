@@ -60,58 +60,58 @@ fs::path startOf(const SplitPath& split, const fs::path& base)
 }
 
 // The entry of `dir` named `name`, exact match first, then without regard to letter case.
-std::optional<fs::path> findEntry(const fs::path& dir, const std::string& name)
+std::optional<fs::path> findEntry(const FileSystem& system, const fs::path& dir, const std::string& name)
 {
     std::error_code ec;
     const fs::path exact = dir / pathFromUtf8(name);
-    if (name == ".." || fs::exists(exact, ec))
+    if (name == ".." || system.status(exact, ec).exists())
         return exact;
     const std::string wanted = lowerAscii(name);
-    for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec)) {
-        if (lowerAscii(utf8Of(it->path().filename())) == wanted)
-            return it->path();
+    for (const std::string& entry : system.list(dir)) {
+        if (lowerAscii(entry) == wanted)
+            return dir / pathFromUtf8(entry);
     }
     return std::nullopt;
 }
 
 } // namespace
 
-std::optional<fs::path> findPath(std::string_view path, const fs::path& base)
+std::optional<fs::path> findPath(std::string_view path, const fs::path& base, const FileSystem& system)
 {
     const SplitPath parts = split(path);
     if (parts.parts.empty() && parts.root.empty())
         return std::nullopt;
     fs::path current = startOf(parts, base);
     for (const std::string& part : parts.parts) {
-        auto next = findEntry(current, part);
+        auto next = findEntry(system, current, part);
         if (!next)
             return std::nullopt;
         current = *next;
     }
     std::error_code ec;
-    if (!fs::exists(current, ec))
+    if (!system.status(current, ec).exists())
         return std::nullopt;
     return current;
 }
 
-fs::path resolvePath(std::string_view path, const fs::path& base)
+fs::path resolvePath(std::string_view path, const fs::path& base, const FileSystem& system)
 {
     const SplitPath parts = split(path);
     fs::path current = startOf(parts, base);
     bool found = true;
     for (const std::string& part : parts.parts) {
-        std::optional<fs::path> next = found ? findEntry(current, part) : std::nullopt;
+        std::optional<fs::path> next = found ? findEntry(system, current, part) : std::nullopt;
         found = next.has_value();
         current = found ? *next : current / pathFromUtf8(part);
     }
     return current;
 }
 
-bool fileExists(std::string_view path, const fs::path& base)
+bool fileExists(std::string_view path, const fs::path& base, const FileSystem& system)
 {
-    const auto found = findPath(path, base);
+    const auto found = findPath(path, base, system);
     std::error_code ec;
-    return found && fs::is_regular_file(*found, ec);
+    return found && system.status(*found, ec).isFile();
 }
 
 bool isSingleName(std::string_view name)

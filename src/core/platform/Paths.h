@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FileSystem.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -10,16 +12,20 @@ namespace quillet {
 // Paths reach the program written the old way, with backslashes ("C:\fs2000\aircraft\b737\aircraft.cfg")
 // and in whatever letter case the user typed. These functions find the real file on any file system:
 // both slashes separate, and each part matches a directory entry without regard to letter case
-// (an exact match is preferred). A relative path starts from `base`.
+// (an exact match is preferred). A relative path starts from `base`. They look on the machine's file
+// system unless given another.
 
 // The existing file or folder the path names, or nothing.
-std::optional<std::filesystem::path> findPath(std::string_view path, const std::filesystem::path& base = {});
+std::optional<std::filesystem::path> findPath(std::string_view path, const std::filesystem::path& base = {},
+                                              const FileSystem& system = systemFiles());
 
 // Where to write the path: the existing parts as found, the rest as written.
-std::filesystem::path resolvePath(std::string_view path, const std::filesystem::path& base = {});
+std::filesystem::path resolvePath(std::string_view path, const std::filesystem::path& base = {},
+                                  const FileSystem& system = systemFiles());
 
 // Whether a file (not a folder) of that name exists.
-bool fileExists(std::string_view path, const std::filesystem::path& base = {});
+bool fileExists(std::string_view path, const std::filesystem::path& base = {},
+                const FileSystem& system = systemFiles());
 
 // Whether the text names one entry inside a folder rather than a path: not empty, no slash, backslash
 // or drive colon, and not made of dots and blanks alone ("..", and what Windows trims to it).

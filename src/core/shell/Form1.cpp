@@ -124,7 +124,7 @@ void Form1::loadini(int& count)
     LoadState& state = m_session.state;
     Combo1.clear();
 
-    const auto file = findPath(kSettingsFile, m_session.programFolder);
+    const auto file = findPath(kSettingsFile, m_session.programFolder, m_session.files.system());
     auto bytes =
         file ? m_session.files.read(*file, kSettingsMaxBytes)
              : Result<std::string>(Error{"\"" + std::string(kSettingsFile) + "\" was not found in \"" +
@@ -166,7 +166,7 @@ void Form1::loadini(int& count)
         }
         // A flag once set stays set for the run.
         if (fileExists(state.simfolder + "\\aircraft\\" + state.menufolder[i] + "\\aircraft.cfg",
-                       m_session.programFolder)) {
+                       m_session.programFolder, m_session.files.system())) {
             state.menuvalid[i] = true;
             Combo1.addItem(state.menutype[i]);
             Combo1.tooltip = "Select Aircraft Type";
@@ -185,7 +185,7 @@ bool Form1::saveini(int count)
     std::vector<MenuEntry> entries;
     for (int i = 0; i < count && i < kMenuCapacity; ++i)
         entries.push_back({state.menutype[i], state.menufolder[i]});
-    const auto path = resolvePath(kSettingsFile, m_session.programFolder);
+    const auto path = resolvePath(kSettingsFile, m_session.programFolder, m_session.files.system());
     const std::string bytes = formatSettings(state.simfolder, entries);
     const auto notSaved = [this](const std::string& why) {
         m_session.messages.report("The settings were not saved: " + why);
@@ -197,7 +197,7 @@ bool Form1::saveini(int count)
     std::string onDisk;
     std::optional<std::string> notKept;
     std::error_code ec;
-    if (std::filesystem::exists(path, ec)) {
+    if (m_session.files.system().status(path, ec).exists()) {
         auto read = m_session.files.read(path, kSettingsMaxBytes);
         if (!read)
             return notSaved(read.error().message + " It was left as it is.");

@@ -82,7 +82,7 @@ void Form4::invalid_dir_Change()
     Command1_visible =
         isSingleName(invalid_dir.text()) &&
         fileExists(m_session.state.simfolder + "\\aircraft\\" + invalid_dir.text() + "\\aircraft.cfg",
-                   m_session.programFolder);
+                   m_session.programFolder, m_session.files.system());
 }
 
 void Form4::Command1_Click()
@@ -110,7 +110,7 @@ void Form4::Command1_Click()
 void Form4::simdir_Change()
 {
     // A folder without the simulator is simply not taken.
-    if (!fileExists(simdir.text() + "\\fs2000.exe", m_session.programFolder))
+    if (!fileExists(simdir.text() + "\\fs2000.exe", m_session.programFolder, m_session.files.system()))
         return;
     Check2 = true;
     m_session.state.simfolder = simdir.text();

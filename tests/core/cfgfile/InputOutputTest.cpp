@@ -5,6 +5,7 @@
 #include "TempDir.h"
 #include "cfgfile/AircraftFile.h"
 #include "cfgfile/WeightBlock.h"
+#include "platform/RecordingFileSystem.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -35,6 +36,7 @@ protected:
     CfgFileTest()
     {
         fs::create_directories(session.programFolder);
+        session.files = Files(disk);
         LoadState& s = session.state;
         s.simfolder = (dir.path() / "fs2000").string();
         s.nmenu = 2;
@@ -73,6 +75,7 @@ protected:
     }
 
     TempDir dir;
+    RecordingFileSystem disk{systemFiles()};
     ScriptedPrompt prompt;
     ScriptedRandom random;
     FixedClock clock{Date{2001, 3, 7}};
@@ -283,9 +286,9 @@ TEST_F(CfgFileTest, AFailedSaveKeepsTheOldFilesAndTellsWhy)
     EXPECT_FALSE(writecfg(session));
     fs::permissions(cfg(), fs::perms::owner_write, fs::perm_options::add);
 
-    session.files.failWritesAfter(10);
+    disk.failWritesAfter(10);
     EXPECT_FALSE(writecfg(session));
-    session.files.failWritesAfter(std::nullopt);
+    disk.failWritesAfter(std::nullopt);
 
     type = "DHC-8-300"; // set up, but not read
     EXPECT_FALSE(writecfg(session));
@@ -300,6 +303,44 @@ TEST_F(CfgFileTest, AFailedSaveKeepsTheOldFilesAndTellsWhy)
     EXPECT_NE(told[2].find("dash8"), std::string::npos) << told[2];
     EXPECT_NE(told[3].find("beech2"), std::string::npos) << told[3];
     EXPECT_EQ(allFiles(), filesBefore);
+}
+
+// A save is durable at every moment only in this order: each file written and flushed, both renamed,
+// then the folders that record the renames flushed.
+TEST_F(CfgFileTest, ASaveFlushesFilesBeforeRenamingAndFoldersAfter)
+{
+    writeCfg("a\r\n[WEIGHT_AND_BALANCE]\r\n");
+    ASSERT_TRUE(readcfg(session));
+    disk.steps.clear();
+    ASSERT_TRUE(writecfg(session));
+
+    std::vector<std::string> order;
+    for (const RecordedStep& step : disk.steps) {
+        const std::string name = step.path.filename().string();
+        const bool temporary = isTemporaryOf(name, "aircraft.cfg") || isTemporaryOf(name, kType + ".cfg");
+        const std::string file = temporary ? "temporary " + name.substr(1, name.find(".cfg") + 3) : name;
+        switch (step.step) {
+        case FileStep::Write:
+            order.push_back("write " + file);
+            break;
+        case FileStep::Sync:
+            order.push_back("sync " + file);
+            break;
+        case FileStep::Rename:
+            order.push_back("rename to " + file);
+            break;
+        case FileStep::SyncFolder:
+            order.push_back("sync folder " + name);
+            break;
+        default:
+            break;
+        }
+    }
+    EXPECT_EQ(order,
+              (std::vector<std::string>{"write temporary aircraft.cfg", "sync temporary aircraft.cfg",
+                                        "write temporary Beech 1900D.cfg", "sync temporary Beech 1900D.cfg",
+                                        "rename to aircraft.cfg", "rename to Beech 1900D.cfg",
+                                        "sync folder beech", "sync folder program"}));
 }
 
 TEST_F(CfgFileTest, AFileChangedByAnotherProgramIsReadAgainBeforeSaving)
@@ -344,9 +385,9 @@ TEST_F(CfgFileTest, TheOneTimeBackupIsWholeOrAbsentAndOnlyAPlainFileCounts)
         "read successfully.";
 
     // The disk fills up while the backup is written.
-    session.files.failWritesAfter(10);
+    disk.failWritesAfter(10);
     EXPECT_FALSE(readcfg(session));
-    session.files.failWritesAfter(std::nullopt);
+    disk.failWritesAfter(std::nullopt);
     EXPECT_EQ(session.messages.take(),
               std::vector<std::string>{"The one-time backup of \"" + cfg().string() +
                                        "\" could not be made: \"" + backup().string() +
@@ -557,7 +598,7 @@ TEST_F(CfgFileTest, BothFilesAreCheckedBeforeEitherIsWritten)
             "Nothing was saved: \"" + stations().string() + "\" is a folder, so it cannot be written."}));
 
     // What no check can foresee: the station file cannot be renamed into place.
-    session.files.failRenamesAfter(1);
+    disk.failAfter(FileStep::Rename, 1);
     EXPECT_FALSE(writecfg(session));
     EXPECT_EQ(TempDir::readFile(cfg()), "a\r\n[WEIGHT_AND_BALANCE]\r\n" + block());
     EXPECT_EQ(TempDir::readFile(stations()), kStationFile);

@@ -43,6 +43,15 @@ std::string which(const fs::path& file, const Versions& versions)
     return "broken (" + std::to_string(bytes.size()) + " bytes)";
 }
 
+// Our temporary files anywhere below the folder.
+int temporaries(const fs::path& folder)
+{
+    int count = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(folder))
+        count += entry.path().filename().string().ends_with(".quillet-new");
+    return count;
+}
+
 TEST(KillDuringSave, EveryFileIsAlwaysAnOldOrANewCompleteFile)
 {
     // Every complete version, made in this process by the same steps as the child's.
@@ -108,10 +117,13 @@ TEST(KillDuringSave, EveryFileIsAlwaysAnOldOrANewCompleteFile)
         }
         ++seen[onDisk[0] + " / " + onDisk[1] + " / " + onDisk[2]];
 
-        // What the kill left is read without complaint.
+        // What the kill left is read without complaint, and the next save clears its temporary files.
         SaveLoopRig next{dir.path()};
         EXPECT_TRUE(readcfg(next.session));
         EXPECT_TRUE(next.session.messages.pending().empty());
+        next.load(kill);
+        EXPECT_TRUE(writecfg(next.session));
+        EXPECT_EQ(temporaries(dir.path()), 0);
     }
 
     std::cout << "First save after " << firstSave.count() << " us; kills within twice that. "

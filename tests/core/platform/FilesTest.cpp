@@ -1,6 +1,8 @@
 #include "platform/Files.h"
 
+#include "Links.h"
 #include "TempDir.h"
+#include "platform/RecordingFileSystem.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -62,8 +64,9 @@ TEST(Files, AFailedWriteKeepsTheOldFileWhole)
 {
     TempDir dir;
     const auto file = dir.write("aircraft.cfg", "the old contents");
-    Files files;
-    files.failWritesAfter(4);
+    RecordingFileSystem disk{systemFiles()};
+    Files files{disk};
+    disk.failWritesAfter(4);
     auto written = files.replace(file, "the new contents, longer");
     ASSERT_FALSE(written);
     EXPECT_EQ(written.error().message,
@@ -78,7 +81,8 @@ TEST(Files, PreparedFilesChangeNothingUntilCommitted)
     TempDir dir;
     const auto first = dir.write("aircraft.cfg", "old 1");
     const auto second = dir.write("station.cfg", "old 2");
-    Files files;
+    RecordingFileSystem disk{systemFiles()};
+    Files files{disk};
     {
         auto a = files.prepare(first, "new 1");
         auto b = files.prepare(second, "new 2");
@@ -91,7 +95,7 @@ TEST(Files, PreparedFilesChangeNothingUntilCommitted)
     EXPECT_EQ(TempDir::readFile(second), "old 2");
     EXPECT_EQ(namesIn(dir.path()), (std::set<std::string>{"aircraft.cfg", "station.cfg"}));
 
-    files.failRenamesAfter(0);
+    disk.failAfter(FileStep::Rename, 0);
     auto c = files.prepare(second, "new 2");
     ASSERT_TRUE(c);
     auto renamed = files.commit(c.value());
@@ -182,6 +186,50 @@ TEST(Files, AFileAnotherProgramHoldsOpen)
     ASSERT_TRUE(saved);
     EXPECT_EQ(TempDir::readFile(file), "new") << "the reader keeps the old bytes, the name has the new ones";
 #endif
+}
+
+TEST(Files, ALinkIsSavedThroughToItsTarget)
+{
+    TempDir dir;
+    const auto target = dir.write("kept/Beech 1900D.cfg", "old");
+    const auto link = dir.path() / "Beech 1900D.cfg";
+    QUILLET_LINK_OR_SKIP("kept/Beech 1900D.cfg", link);
+    ASSERT_TRUE(Files().replace(link, "new"));
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(TempDir::readFile(target), "new");
+    EXPECT_EQ(namesIn(target.parent_path()), std::set<std::string>{"Beech 1900D.cfg"});
+
+    const auto dangling = dir.path() / "B737-300.cfg";
+    fs::create_symlink("kept/none.cfg", dangling);
+    auto written = Files().replace(dangling, "new");
+    ASSERT_FALSE(written);
+    EXPECT_EQ(written.error().message,
+              "\"" + dangling.string() + "\" is a link to \"kept/none.cfg\", which does not exist.");
+    EXPECT_FALSE(fs::exists(dir.path() / "kept/none.cfg"));
+}
+
+TEST(Files, ASaveRemovesOnlyTheTemporariesItsFileLeftBehind)
+{
+    TempDir dir;
+    const auto file = dir.write("aircraft.cfg", "old");
+    const auto outside = dir.write("outside/keep.txt", "not ours");
+    const std::set<std::string> foreign{
+        ".aircraft.cfg.bak.0123456789abcdef.quillet-new", ".aircraft.cfg.0123.quillet-new",
+        "aircraft.cfg.0123456789abcdef.quillet-new", ".aircraft.cfg.0123456789ABCDEF.quillet-new"};
+    for (const std::string& name : foreign)
+        dir.write(name, "x");
+    dir.write(".aircraft.cfg.00000000deadbeef.quillet-new", "left by a killed save");
+    std::error_code noLink; // Windows may make none; the other leftovers are checked all the same
+    fs::create_symlink(outside, dir.path() / ".aircraft.cfg.0123456789abcdef.quillet-new", noLink);
+    fs::create_directory(dir.path() / ".aircraft.cfg.fedcba9876543210.quillet-new");
+
+    ASSERT_TRUE(Files().replace(file, "new"));
+    std::set<std::string> expected = foreign;
+    expected.insert({"aircraft.cfg", "outside", ".aircraft.cfg.fedcba9876543210.quillet-new"});
+    if (!noLink)
+        expected.insert(".aircraft.cfg.0123456789abcdef.quillet-new");
+    EXPECT_EQ(namesIn(dir.path()), expected);
+    EXPECT_EQ(TempDir::readFile(outside), "not ours");
 }
 
 } // namespace

@@ -1,0 +1,168 @@
+#include "MemoryFileSystem.h"
+
+namespace fs = std::filesystem;
+
+namespace quillet {
+
+namespace {
+
+std::string key(const fs::path& path)
+{
+    std::string text = path.lexically_normal().generic_string();
+    while (text.size() > 1 && text.back() == '/')
+        text.pop_back();
+    return text;
+}
+
+std::string parentKey(const std::string& path)
+{
+    return key(fs::path(path).parent_path());
+}
+
+std::error_code missing()
+{
+    return std::make_error_code(std::errc::no_such_file_or_directory);
+}
+
+} // namespace
+
+void MemoryFileSystem::addFolder(const fs::path& folder)
+{
+    for (fs::path part = folder.lexically_normal(); !part.empty(); part = part.parent_path()) {
+        m_folders.insert(key(part));
+        if (part == part.parent_path())
+            break;
+    }
+}
+
+void MemoryFileSystem::put(const fs::path& path, std::string_view bytes)
+{
+    addFolder(path.parent_path());
+    m_files[key(path)] = std::string(bytes);
+}
+
+std::optional<std::string> MemoryFileSystem::get(const fs::path& path) const
+{
+    const auto found = m_files.find(key(path));
+    if (found == m_files.end())
+        return std::nullopt;
+    return found->second;
+}
+
+FileStatus MemoryFileSystem::status(const fs::path& path, std::error_code& ec) const
+{
+    ec.clear();
+    FileStatus out;
+    const std::string name = key(path);
+    if (const auto file = m_files.find(name); file != m_files.end()) {
+        out.type = fs::file_type::regular;
+        out.size = file->second.size();
+        out.permissions = fs::perms::owner_read | fs::perms::owner_write;
+    } else if (m_folders.contains(name)) {
+        out.type = fs::file_type::directory;
+        out.permissions = fs::perms::owner_all;
+    }
+    return out;
+}
+
+FileStatus MemoryFileSystem::linkStatus(const fs::path& path, std::error_code& ec) const
+{
+    return status(path, ec);
+}
+
+fs::path MemoryFileSystem::readLink(const fs::path&, std::error_code& ec) const
+{
+    ec = std::make_error_code(std::errc::invalid_argument);
+    return {};
+}
+
+std::vector<std::string> MemoryFileSystem::list(const fs::path& folder) const
+{
+    const std::string parent = key(folder);
+    std::vector<std::string> names;
+    for (const auto& [name, bytes] : m_files) {
+        if (parentKey(name) == parent)
+            names.push_back(fs::path(name).filename().string());
+    }
+    for (const std::string& name : m_folders) {
+        if (name != parent && parentKey(name) == parent)
+            names.push_back(fs::path(name).filename().string());
+    }
+    return names;
+}
+
+std::error_code MemoryFileSystem::read(const fs::path& path, std::uintmax_t maxBytes,
+                                       std::string& bytes) const
+{
+    const auto file = m_files.find(key(path));
+    if (file == m_files.end())
+        return m_folders.contains(key(path)) ? std::make_error_code(std::errc::is_a_directory) : missing();
+    if (file->second.size() > maxBytes) {
+        bytes = file->second.substr(0, static_cast<std::size_t>(maxBytes) + 1);
+        return std::make_error_code(std::errc::file_too_large);
+    }
+    bytes = file->second;
+    return {};
+}
+
+std::error_code MemoryFileSystem::create(const fs::path& path, Handle& handle)
+{
+    const std::string name = key(path);
+    if (m_files.contains(name) || m_folders.contains(name))
+        return std::make_error_code(std::errc::file_exists);
+    if (!m_folders.contains(parentKey(name)))
+        return missing();
+    m_files[name];
+    handle = m_nextHandle++;
+    m_open[handle] = name;
+    return {};
+}
+
+std::error_code MemoryFileSystem::write(Handle handle, std::string_view bytes)
+{
+    const auto open = m_open.find(handle);
+    if (open == m_open.end())
+        return std::make_error_code(std::errc::bad_file_descriptor);
+    m_files[open->second].append(bytes);
+    return {};
+}
+
+std::error_code MemoryFileSystem::sync(Handle handle)
+{
+    return m_open.contains(handle) ? std::error_code() : std::make_error_code(std::errc::bad_file_descriptor);
+}
+
+std::error_code MemoryFileSystem::close(Handle handle)
+{
+    return m_open.erase(handle) == 1 ? std::error_code()
+                                     : std::make_error_code(std::errc::bad_file_descriptor);
+}
+
+std::error_code MemoryFileSystem::rename(const fs::path& from, const fs::path& to)
+{
+    const auto source = m_files.find(key(from));
+    if (source == m_files.end())
+        return missing();
+    const std::string target = key(to);
+    if (m_folders.contains(target))
+        return std::make_error_code(std::errc::is_a_directory);
+    if (!m_folders.contains(parentKey(target)))
+        return missing();
+    std::string bytes = std::move(source->second);
+    m_files.erase(source);
+    m_files[target] = std::move(bytes);
+    return {};
+}
+
+std::error_code MemoryFileSystem::remove(const fs::path& path)
+{
+    m_files.erase(key(path));
+    return {};
+}
+
+std::error_code MemoryFileSystem::syncFolder(const fs::path& folder)
+{
+    return m_folders.contains(key(folder)) ? std::error_code() : missing();
+}
+
+} // namespace quillet
