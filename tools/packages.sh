@@ -18,3 +18,7 @@ ensure_packages() {
 BUILD_PACKAGES=(cmake make g++ qt6-base-dev libgl-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-liberation poppler-utils)
 # The sanitizer and fuzzing build, and the sources of the decimal-comma locale the tests generate.
 SANITIZER_PACKAGES=(clang libclang-rt-14-dev locales)
+
+# The Debian package and its checks; the Windows cross build of the core, run under Wine.
+PACKAGE_PACKAGES=(dpkg-dev lintian appstream desktop-file-utils)
+WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix wine64 googletest ccache)

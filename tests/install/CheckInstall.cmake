@@ -1,45 +1,11 @@
 # Installs the build into a fresh prefix and checks that everything a desktop needs is in its place.
 #   cmake -DBUILD=<build folder> -DPREFIX=<scratch prefix> [-DEXE=<executable suffix>]
 #         [-DVALIDATOR=<desktop-file-validate>] -P CheckInstall.cmake
+include(${CMAKE_CURRENT_LIST_DIR}/InstalledTree.cmake)
+
 file(REMOVE_RECURSE ${PREFIX})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${PREFIX} OUTPUT_QUIET RESULT_VARIABLE failed)
 if(failed)
     message(FATAL_ERROR "cmake --install failed")
 endif()
-
-set(expected
-    bin/quillet${EXE}
-    share/applications/quillet.desktop
-    share/icons/hicolor/scalable/apps/quillet.svg)
-foreach(size 16 24 32 48 64 128 256)
-    list(APPEND expected share/icons/hicolor/${size}x${size}/apps/quillet.png)
-endforeach()
-# The picture of every type, under the names the program looks for.
-foreach(picture beech emb120 dhc8 crj200 DC-10-30F B727-212ADV B737-200ADV B737-300 B757-200 B757-200F
-        B767-300ER DC-8-71F DC-9-30F MD-90-30)
-    list(APPEND expected share/quillet/pictures/${picture}.gif)
-endforeach()
-
-set(missing)
-foreach(file ${expected})
-    if(NOT EXISTS ${PREFIX}/${file})
-        list(APPEND missing ${file})
-    endif()
-endforeach()
-if(missing)
-    message(FATAL_ERROR "Not installed: ${missing}")
-endif()
-
-# The entry starts the installed program in the user's own folder, with the installed icon.
-file(STRINGS ${PREFIX}/share/applications/quillet.desktop exec REGEX "^Exec=")
-file(STRINGS ${PREFIX}/share/applications/quillet.desktop icon REGEX "^Icon=")
-if(NOT exec STREQUAL "Exec=quillet --user-folder" OR NOT icon STREQUAL "Icon=quillet")
-    message(FATAL_ERROR "The desktop entry says ${exec} and ${icon}")
-endif()
-
-if(VALIDATOR)
-    execute_process(COMMAND ${VALIDATOR} ${PREFIX}/share/applications/quillet.desktop RESULT_VARIABLE invalid)
-    if(invalid)
-        message(FATAL_ERROR "desktop-file-validate rejects the installed entry")
-    endif()
-endif()
+check_installed_tree(${PREFIX} "${EXE}" "${VALIDATOR}")

@@ -59,13 +59,14 @@ Result<fs::path> fileBehind(const FileSystem& system, const fs::path& path)
 void removeLeftovers(FileSystem& system, const fs::path& file)
 {
     const fs::path folder = folderOf(file);
-    const std::string name = file.filename().string();
+    const std::string name = utf8Of(file.filename());
     for (const std::string& entry : system.list(folder)) {
         if (!isTemporaryOf(entry, name))
             continue;
         std::error_code ec;
-        if (system.linkStatus(folder / entry, ec).isFile() && !ec)
-            (void)system.remove(folder / entry);
+        const fs::path leftover = folder / pathFromUtf8(entry);
+        if (system.linkStatus(leftover, ec).isFile() && !ec)
+            (void)system.remove(leftover);
     }
 }
 
@@ -78,7 +79,7 @@ fs::path temporaryFor(const fs::path& path)
     static std::mt19937_64 generator{std::random_device{}()};
     char suffix[kTemporaryDigits + 1];
     std::snprintf(suffix, sizeof suffix, "%016llx", static_cast<unsigned long long>(generator()));
-    return folderOf(path) / ("." + path.filename().string() + "." + suffix + std::string(kTemporaryEnd));
+    return folderOf(path) / pathFromUtf8("." + utf8Of(path.filename()) + "." + suffix + std::string(kTemporaryEnd));
 }
 
 bool isTemporaryOf(std::string_view entry, std::string_view name)

@@ -30,7 +30,7 @@ SplitPath split(std::string_view path)
     std::size_t i = 0;
 #ifdef _WIN32
     if (path.size() >= 2 && path[1] == ':') {
-        out.root = fs::path(std::string(path.substr(0, 2)) + "\\");
+        out.root = pathFromUtf8(std::string(path.substr(0, 2)) + "\\");
         i = 2;
     }
 #endif
@@ -63,13 +63,13 @@ fs::path startOf(const SplitPath& split, const fs::path& base)
 std::optional<fs::path> findEntry(const FileSystem& system, const fs::path& dir, const std::string& name)
 {
     std::error_code ec;
-    const fs::path exact = dir / fs::path(name);
+    const fs::path exact = dir / pathFromUtf8(name);
     if (name == ".." || system.status(exact, ec).exists())
         return exact;
     const std::string wanted = lowerAscii(name);
     for (const std::string& entry : system.list(dir)) {
         if (lowerAscii(entry) == wanted)
-            return dir / entry;
+            return dir / pathFromUtf8(entry);
     }
     return std::nullopt;
 }
@@ -102,7 +102,7 @@ fs::path resolvePath(std::string_view path, const fs::path& base, const FileSyst
     for (const std::string& part : parts.parts) {
         std::optional<fs::path> next = found ? findEntry(system, current, part) : std::nullopt;
         found = next.has_value();
-        current = found ? *next : current / fs::path(part);
+        current = found ? *next : current / pathFromUtf8(part);
     }
     return current;
 }
@@ -122,7 +122,18 @@ bool isSingleName(std::string_view name)
 
 std::string displayPath(const fs::path& path)
 {
-    return path.lexically_normal().string();
+    return utf8Of(path.lexically_normal());
+}
+
+fs::path pathFromUtf8(std::string_view text)
+{
+    return fs::path(std::u8string(text.begin(), text.end()));
+}
+
+std::string utf8Of(const fs::path& path)
+{
+    const std::u8string text = path.u8string();
+    return std::string(text.begin(), text.end());
 }
 
 } // namespace quillet

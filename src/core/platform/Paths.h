@@ -34,6 +34,12 @@ bool isSingleName(std::string_view name);
 // The text of a path for a message: the way the user wrote it.
 std::string displayPath(const std::filesystem::path& path);
 
+// Text inside the program is UTF-8 wherever it came from; a path holds what the system's calls take,
+// wide characters on Windows, where a plain string would be read in the local code page instead and a
+// folder such as "Zoë" would not be found. Every conversion between the two goes through these.
+std::filesystem::path pathFromUtf8(std::string_view text);
+std::string utf8Of(const std::filesystem::path& path);
+
 // ASCII letters folded to lower case; other bytes unchanged.
 std::string lowerAscii(std::string_view text);
 

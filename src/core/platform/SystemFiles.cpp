@@ -1,15 +1,18 @@
 // The machine's file system: the only place where the file layer makes system calls.
 
 #include "FileSystem.h"
+#include "Paths.h"
 
 #include <cerrno>
 #include <cstdio>
 
 #ifdef _WIN32
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
 #include <fcntl.h>
 #include <io.h>
-#include <share.h>
-#include <sys/stat.h>
+#include <windows.h>
 #else
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -26,6 +29,36 @@ std::error_code lastError()
 {
     return {errno, std::generic_category()};
 }
+
+#ifdef _WIN32
+// Windows' own error numbers, as the portable conditions the file layer tests and words.
+std::error_code windowsError(DWORD error)
+{
+    switch (error) {
+    case ERROR_FILE_EXISTS:
+    case ERROR_ALREADY_EXISTS:
+        return std::make_error_code(std::errc::file_exists);
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+        return std::make_error_code(std::errc::no_such_file_or_directory);
+    case ERROR_ACCESS_DENIED:
+        return std::make_error_code(std::errc::permission_denied);
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+        return std::make_error_code(std::errc::no_space_on_device);
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+        return std::make_error_code(std::errc::device_or_resource_busy); // another program holds it
+    default:
+        return {static_cast<int>(error), std::system_category()};
+    }
+}
+
+HANDLE osHandle(int handle)
+{
+    return reinterpret_cast<HANDLE>(_get_osfhandle(handle));
+}
+#endif
 
 FileStatus toStatus(const fs::file_status& status, const fs::path& path, bool follow)
 {
@@ -67,7 +100,7 @@ public:
         std::vector<std::string> names;
         std::error_code ec;
         for (fs::directory_iterator it(folder, ec), end; !ec && it != end; it.increment(ec))
-            names.push_back(it->path().filename().string());
+            names.push_back(utf8Of(it->path().filename()));
         return names;
     }
 
@@ -101,46 +134,62 @@ public:
 #ifdef _WIN32
     std::error_code create(const fs::path& path, Handle& handle) override
     {
-        const errno_t error =
-            _wsopen_s(&handle, path.c_str(), _O_CREAT | _O_EXCL | _O_WRONLY | _O_BINARY | _O_NOINHERIT,
-                      _SH_DENYNO, _S_IREAD | _S_IWRITE);
-        return error == 0 ? std::error_code() : std::error_code(error, std::generic_category());
+        // CREATE_NEW fails when anything of that name exists, a link included; nobody else may open the
+        // file until it is complete.
+        const HANDLE file =
+            CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (file == INVALID_HANDLE_VALUE)
+            return windowsError(GetLastError());
+        handle = _open_osfhandle(reinterpret_cast<intptr_t>(file), _O_WRONLY | _O_BINARY);
+        if (handle < 0) {
+            CloseHandle(file);
+            return std::make_error_code(std::errc::too_many_files_open);
+        }
+        return {};
     }
 
     std::error_code write(Handle handle, std::string_view bytes) override
     {
         while (!bytes.empty()) {
-            const unsigned chunk =
-                bytes.size() > (1u << 30) ? (1u << 30) : static_cast<unsigned>(bytes.size());
-            const int written = _write(handle, bytes.data(), chunk);
-            if (written <= 0)
-                return written < 0 ? lastError() : std::make_error_code(std::errc::io_error);
-            bytes.remove_prefix(static_cast<std::size_t>(written));
+            const DWORD chunk = bytes.size() > (1u << 30) ? (1u << 30) : static_cast<DWORD>(bytes.size());
+            DWORD written = 0;
+            if (!WriteFile(osHandle(handle), bytes.data(), chunk, &written, nullptr))
+                return windowsError(GetLastError());
+            if (written == 0)
+                return std::make_error_code(std::errc::io_error);
+            bytes.remove_prefix(written);
         }
         return {};
     }
 
     // Windows keeps only the read-only attribute, which a file we may replace does not have.
-    std::error_code setPermissions(Handle, fs::perms) override
-    {
-        return {};
-    }
+    std::error_code setPermissions(Handle, fs::perms) override { return {}; }
 
     std::error_code sync(Handle handle) override
     {
-        return _commit(handle) == 0 ? std::error_code() : lastError();
+        return FlushFileBuffers(osHandle(handle)) ? std::error_code() : windowsError(GetLastError());
     }
 
-    std::error_code close(Handle handle) override
+    std::error_code close(Handle handle) override { return _close(handle) == 0 ? std::error_code() : lastError(); }
+
+    // The C library's rename refuses to replace an existing file here. MoveFileExW replaces it in one
+    // step, and with WRITE_THROUGH returns only once the rename is on the disk. A file another program
+    // has open cannot be replaced; virus scanners and the simulator itself hold files for a moment, so
+    // it is tried again for up to half a second.
+    std::error_code rename(const fs::path& from, const fs::path& to) override
     {
-        return _close(handle) == 0 ? std::error_code() : lastError();
+        for (int attempt = 0;; ++attempt) {
+            if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+                return {};
+            const DWORD error = GetLastError();
+            if ((error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION) || attempt == 10)
+                return windowsError(error);
+            Sleep(50);
+        }
     }
 
-    // NTFS journals the rename itself; a folder cannot be opened for flushing.
-    std::error_code syncFolder(const fs::path&) override
-    {
-        return {};
-    }
+    // MOVEFILE_WRITE_THROUGH has put the rename on the disk; a folder cannot be opened for flushing.
+    std::error_code syncFolder(const fs::path&) override { return {}; }
 #else
     std::error_code create(const fs::path& path, Handle& handle) override
     {
@@ -188,7 +237,6 @@ public:
         ::close(fd);
         return ec;
     }
-#endif
 
     std::error_code rename(const fs::path& from, const fs::path& to) override
     {
@@ -196,6 +244,7 @@ public:
         fs::rename(from, to, ec);
         return ec;
     }
+#endif
 
     std::error_code remove(const fs::path& path) override
     {

@@ -1,19 +1,17 @@
 // Kills a program that saves in a loop at random moments, and looks at what it leaves on the disk.
 
+#include "ChildProcess.h"
 #include "SaveLoopRig.h"
 #include "TempDir.h"
 #include "cfgfile/inputoutput.h"
 
 #include <chrono>
-#include <csignal>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <map>
 #include <random>
-#include <sys/wait.h>
 #include <thread>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -23,37 +21,6 @@ namespace {
 constexpr int kKills = 50;
 
 using Versions = std::map<std::string, std::string>; // name, bytes
-
-// The child program, saving in `folder` until it is killed.
-class SavingChild {
-public:
-    explicit SavingChild(const fs::path& folder)
-    {
-        m_pid = fork();
-        if (m_pid == 0) {
-            execl(QUILLET_SAVE_LOOP, QUILLET_SAVE_LOOP, folder.c_str(), static_cast<char*>(nullptr));
-            _exit(127);
-        }
-    }
-    SavingChild(const SavingChild&) = delete;
-    SavingChild& operator=(const SavingChild&) = delete;
-    ~SavingChild() { kill(); }
-
-    // Kills it at once; false when it had already ended by itself (a save failed).
-    bool kill()
-    {
-        if (m_pid <= 0)
-            return true;
-        ::kill(m_pid, SIGKILL);
-        int status = 0;
-        waitpid(m_pid, &status, 0);
-        m_pid = 0;
-        return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
-    }
-
-private:
-    pid_t m_pid = 0;
-};
 
 void prepare(const fs::path& folder)
 {
@@ -113,7 +80,7 @@ TEST(KillDuringSave, EveryFileIsAlwaysAnOldOrANewCompleteFile)
         TempDir dir;
         prepare(dir.path());
         const auto start = std::chrono::steady_clock::now();
-        SavingChild child(dir.path());
+        ChildProcess child(QUILLET_SAVE_LOOP, dir.path());
         while (which(SaveLoopRig::cfg(dir.path()), cfg) == "original") {
             ASSERT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20))
                 << "the child never saved";
@@ -133,7 +100,7 @@ TEST(KillDuringSave, EveryFileIsAlwaysAnOldOrANewCompleteFile)
         TempDir dir;
         prepare(dir.path());
         {
-            SavingChild child(dir.path());
+            ChildProcess child(QUILLET_SAVE_LOOP, dir.path());
             std::this_thread::sleep_for(std::chrono::microseconds(delay(generator)));
             ASSERT_TRUE(child.kill()) << "the child stopped saving by itself";
         }

@@ -51,6 +51,15 @@ public:
     {
         const char* before = std::setlocale(LC_ALL, nullptr);
         m_saved = before ? before : "C";
+#ifdef _WIN32
+        // Windows names its locales its own way, and its C++ library knows only the "C" one.
+        for (const char* name : {"German_Germany.1252", "de-DE", "French_France.1252"}) {
+            if (std::setlocale(LC_ALL, name)) {
+                m_name = name;
+                return;
+            }
+        }
+#else
         for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "fr_FR.utf8"}) {
             if (std::setlocale(LC_ALL, name)) {
                 m_name = name;
@@ -58,6 +67,7 @@ public:
                 return;
             }
         }
+#endif
     }
     ~DecimalCommaLocale()
     {

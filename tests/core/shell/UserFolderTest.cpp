@@ -67,7 +67,10 @@ TEST_F(UserFolder, LaterStartsKeepTheUsersFilesAndBringBackAMissingPicture)
 
     ASSERT_TRUE(prepare());
     EXPECT_EQ(read("QUILLET.INI"), "my settings") << "found whatever its letter case";
-    EXPECT_FALSE(std::filesystem::exists(folder() / "quillet.ini"));
+#ifndef _WIN32
+    EXPECT_FALSE(std::filesystem::exists(folder() / "quillet.ini"))
+        << "no second settings file"; // one name on Windows
+#endif
     EXPECT_EQ(read("beech.gif"), "my own beech");
     EXPECT_EQ(read("B737-300.cfg"), "my saved load");
     EXPECT_EQ(read("B737-300.gif"), "GIF89a 737");
