@@ -6,6 +6,7 @@
 #include "load/Planner.h"
 
 #include "FormRig.h"
+#include "TypeName.h"
 #include "freighter/FreighterForms.h"
 #include "jets/JetForms.h"
 #include "regional/RegionalForms.h"
@@ -198,12 +199,7 @@ void expectMeets(TypeRig& rig, const Plan& plan, int passengers, double cargo, c
 
 std::string testName(const ::testing::TestParamInfo<AircraftType>& info)
 {
-    std::string name(info.param.type);
-    for (char& c : name) {
-        if (!std::isalnum(static_cast<unsigned char>(c)))
-            c = '_';
-    }
-    return name;
+    return testNameOf(info.param.type);
 }
 
 class PlanOnEveryType : public ::testing::TestWithParam<AircraftType> {};

@@ -6,6 +6,7 @@
 
 #include "Golden.h"
 #include "ShellFixture.h"
+#include "TypeName.h"
 #include "freighter/FreighterForms.h"
 #include "jets/JetForms.h"
 #include "regional/RegionalForms.h"
@@ -109,12 +110,7 @@ TEST_P(FirstRunStationFile, SetsUpTheBuiltInTable)
 
 std::string testName(const ::testing::TestParamInfo<FirstRun>& info)
 {
-    std::string name = info.param.type;
-    for (char& c : name) {
-        if (!std::isalnum(static_cast<unsigned char>(c)))
-            c = '_';
-    }
-    return name;
+    return testNameOf(info.param.type);
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryType, FirstRunStationFile, ::testing::ValuesIn(kFirstRuns), testName);

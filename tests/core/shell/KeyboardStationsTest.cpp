@@ -2,6 +2,7 @@
 // loads and empties that station alone, on every type.
 
 #include "ShellFixture.h"
+#include "TypeName.h"
 #include "freighter/FreighterForms.h"
 #include "jets/JetForms.h"
 #include "regional/RegionalForms.h"
@@ -63,12 +64,7 @@ TEST_P(KeyboardStations, ReachEveryStationOnceAndAPressLoadsThatStationAlone)
 
 std::string testName(const ::testing::TestParamInfo<AircraftType>& info)
 {
-    std::string name(info.param.type);
-    for (char& c : name) {
-        if (!std::isalnum(static_cast<unsigned char>(c)))
-            c = '_';
-    }
-    return name;
+    return testNameOf(info.param.type);
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryType, KeyboardStations, ::testing::ValuesIn(kAircraftTypes), testName);

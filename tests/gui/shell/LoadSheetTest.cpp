@@ -1,6 +1,7 @@
 #include "load/LoadSheet.h"
 
 #include "GuiFixture.h"
+#include "TypeName.h"
 #include "load/Balance.h"
 #include "shell/AircraftTypes.h"
 #include "shell/LoadForm.h"
@@ -130,10 +131,7 @@ TEST_P(SheetOfEveryType, PdfCarriesTheTotalsLimitsMarginsAndBalanceOfTheLoad)
 
 INSTANTIATE_TEST_SUITE_P(Types, SheetOfEveryType,
                          ::testing::Range(0, static_cast<int>(kAircraftTypes.size())), [](const auto& info) {
-                             std::string name(kAircraftTypes[static_cast<std::size_t>(info.param)].type);
-                             std::replace_if(
-                                 name.begin(), name.end(), [](char c) { return !std::isalnum(c); }, '_');
-                             return name;
+                             return testNameOf(kAircraftTypes[static_cast<std::size_t>(info.param)].type);
                          });
 
 TEST_F(SheetGui, AnExceededLimitIsPrintedAsExceeded)
