@@ -105,7 +105,8 @@ protected:
     // counts as saved.
     Status read();
     Status save();
-    // Shows a load the history put back: the form's checks and drawing, and the summary.
+    // What the form runs after its load changed at once (a plan applied, a step undone or redone):
+    // its checks, its drawing and the summary, as after a click.
     virtual void afterLoadChange() = 0;
 
     Session& m_session;
