@@ -108,6 +108,7 @@ private:
     FormRegistry m_forms;
     std::unique_ptr<Form1> m_form1;
     std::string m_broken;
+    float m_peak = 1; // the largest total the run has held
     int m_saves = 0;
     int m_refused = 0;
 };
