@@ -79,7 +79,8 @@ fs::path temporaryFor(const fs::path& path)
     static std::mt19937_64 generator{std::random_device{}()};
     char suffix[kTemporaryDigits + 1];
     std::snprintf(suffix, sizeof suffix, "%016llx", static_cast<unsigned long long>(generator()));
-    return folderOf(path) / pathFromUtf8("." + utf8Of(path.filename()) + "." + suffix + std::string(kTemporaryEnd));
+    return folderOf(path) /
+           pathFromUtf8("." + utf8Of(path.filename()) + "." + suffix + std::string(kTemporaryEnd));
 }
 
 bool isTemporaryOf(std::string_view entry, std::string_view name)

@@ -163,14 +163,20 @@ public:
     }
 
     // Windows keeps only the read-only attribute, which a file we may replace does not have.
-    std::error_code setPermissions(Handle, fs::perms) override { return {}; }
+    std::error_code setPermissions(Handle, fs::perms) override
+    {
+        return {};
+    }
 
     std::error_code sync(Handle handle) override
     {
         return FlushFileBuffers(osHandle(handle)) ? std::error_code() : windowsError(GetLastError());
     }
 
-    std::error_code close(Handle handle) override { return _close(handle) == 0 ? std::error_code() : lastError(); }
+    std::error_code close(Handle handle) override
+    {
+        return _close(handle) == 0 ? std::error_code() : lastError();
+    }
 
     // The C library's rename refuses to replace an existing file here. MoveFileExW replaces it in one
     // step, and with WRITE_THROUGH returns only once the rename is on the disk. A file another program
@@ -189,7 +195,10 @@ public:
     }
 
     // MOVEFILE_WRITE_THROUGH has put the rename on the disk; a folder cannot be opened for flushing.
-    std::error_code syncFolder(const fs::path&) override { return {}; }
+    std::error_code syncFolder(const fs::path&) override
+    {
+        return {};
+    }
 #else
     std::error_code create(const fs::path& path, Handle& handle) override
     {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "load/Planner.h"
 #include "load/LoadHistory.h"
+#include "load/Planner.h"
 #include "load/Session.h"
 #include "load/StationGroups.h"
 #include "load/Summary.h"

@@ -21,7 +21,8 @@ RegionalLoadWindow::RegionalLoadWindow(RegionalLoadForm& form, Application& app)
     m_client->setFixedSize(twipsRect(0, 0, layout.clientWidth, layout.clientHeight).size());
     setCentralWidget(m_client);
 
-    m_photo = pictureBox(layout.photoName, layout.photo, QStringLiteral("Photograph of the ") + latin(type.type));
+    m_photo =
+        pictureBox(layout.photoName, layout.photo, QStringLiteral("Photograph of the ") + latin(type.type));
     m_summary = std::make_unique<SummaryPanel>(m_client, layout.summary, form);
 }
 

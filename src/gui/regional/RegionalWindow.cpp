@@ -19,7 +19,10 @@ namespace {
 // A hot spot: a transparent label without caption; a press on it edits its station.
 class HotSpotLabel : public QLabel {
 public:
-    HotSpotLabel(QWidget* parent, std::function<void()> onPress) : QLabel(parent), m_onPress(std::move(onPress)) {}
+    HotSpotLabel(QWidget* parent, std::function<void()> onPress)
+        : QLabel(parent), m_onPress(std::move(onPress))
+    {
+    }
 
 protected:
     void mousePressEvent(QMouseEvent* event) override

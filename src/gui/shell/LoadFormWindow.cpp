@@ -2,8 +2,8 @@
 
 #include "Application.h"
 #include "LoadSheetPrint.h"
-#include "TargetDialog.h"
 #include "SummaryPanel.h"
+#include "TargetDialog.h"
 #include "load/LoadSheet.h"
 #include "platform/PictureBox.h"
 #include "platform/StationFocus.h"
@@ -17,10 +17,10 @@
 #include <QFileDialog>
 #include <QMenu>
 #include <QMenuBar>
-#include <QShortcut>
 #include <QMessageBox>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QShortcut>
 #include <QToolBar>
 
 namespace quillet {
@@ -76,7 +76,8 @@ void LoadFormWindow::showEvent(QShowEvent* event)
 void LoadFormWindow::loadByKeyboard(PictureBox* picture)
 {
     // A press is a click: one step of the undo history like any other.
-    new StationFocus(picture, m_form, [this](const std::function<void()>& handler) { forward("Click", handler); });
+    new StationFocus(picture, m_form,
+                     [this](const std::function<void()>& handler) { forward("Click", handler); });
 }
 
 void LoadFormWindow::showPhoto(PictureBox* box, const std::filesystem::path& file)

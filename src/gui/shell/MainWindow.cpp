@@ -8,8 +8,8 @@
 #include "shell/Form1.h"
 
 #include <QCloseEvent>
-#include <QFocusEvent>
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
@@ -41,7 +41,8 @@ MainWindow::MainWindow(Application& app) : m_app(app), m_form(app.form1())
     configure->setObjectName(QStringLiteral("mnuconfigure"));
     QAction* aircraft = configure->addAction(QStringLiteral("&Aircraft"));
     aircraft->setObjectName(QStringLiteral("mnuconfigair"));
-    connect(aircraft, &QAction::triggered, this, [this] { m_app.handle([this] { m_form.mnuconfigair_Click(); }); });
+    connect(aircraft, &QAction::triggered, this,
+            [this] { m_app.handle([this] { m_form.mnuconfigair_Click(); }); });
     auto* about = menuBar()->addMenu(QStringLiteral("&About"));
     about->setObjectName(QStringLiteral("mnuabout"));
     QAction* version = about->addAction(QStringLiteral("&Version"));
@@ -53,7 +54,8 @@ MainWindow::MainWindow(Application& app) : m_app(app), m_form(app.form1())
             [this] { m_app.handle([this] { m_form.mnucopyright_Click(); }); });
 
     // Ctrl+Q quits as the close button does.
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this), &QShortcut::activated, this, &QWidget::close);
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this), &QShortcut::activated, this,
+            &QWidget::close);
 
     auto* client = new QWidget(this);
     client->setFixedSize(twipsRect(0, 0, 8460, 3510).size());
@@ -78,7 +80,8 @@ MainWindow::MainWindow(Application& app) : m_app(app), m_form(app.form1())
     auto* adjust = new QPushButton(QStringLiteral("Adjust"), client);
     adjust->setObjectName(QStringLiteral("Command2"));
     place(adjust, 3000, 1680, 615, 255);
-    connect(adjust, &QPushButton::clicked, this, [this] { m_app.handle([this] { m_form.Command2_Click(); }); });
+    connect(adjust, &QPushButton::clicked, this,
+            [this] { m_app.handle([this] { m_form.Command2_Click(); }); });
     nameForScreenReaders(adjust, {}, QStringLiteral("Opens the load form of the selected aircraft"));
 
     m_picture = new PictureBox(client);
@@ -105,9 +108,9 @@ void MainWindow::buildConverter()
     frame->setObjectName(QStringLiteral("Converter"));
     place(frame, 6720, 1680, 1575, 1095);
     // The caption sits in the top edge of the frame, so the rows keep their designed places inside.
-    frame->setStyleSheet(QStringLiteral(
-        "QGroupBox { border: 1px solid palette(mid); margin-top: 6px; }"
-        "QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 6px; padding: 0 2px; }"));
+    frame->setStyleSheet(QStringLiteral("QGroupBox { border: 1px solid palette(mid); margin-top: 6px; }"
+                                        "QGroupBox::title { subcontrol-origin: margin; subcontrol-position: "
+                                        "top left; left: 6px; padding: 0 2px; }"));
 
     m_labelkg = makeLabel(frame, "Labelkg", 240, 280, 855, 255);
     m_labellb = makeLabel(frame, "Labellb", 240, 640, 855, 255);
@@ -151,7 +154,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
         // Validation runs when the user moves on to another control of this window, not when another
         // window (a message box, say) takes the focus.
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+        if (reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
+            reason == Qt::BacktabFocusReason)
             m_app.handle([this] { m_form.Combo1_Validate(); });
     }
     return QMainWindow::eventFilter(watched, event);

@@ -1,9 +1,9 @@
 #include "load/Summary.h"
+
 #include "platform/RecordingCanvas.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
+#include <gtest/gtest.h>
 
 namespace quillet {
 namespace {
