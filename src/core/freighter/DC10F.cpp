@@ -390,6 +390,7 @@ void DC10F::drawDeck(Canvas& picture)
         picture.print(overloadNote);
         picture.setForeColor(kBlack);
     }
+    picture.markRepeated(); // every pointer movement redraws the deck before its label
 }
 
 void DC10F::mnulight_Click()

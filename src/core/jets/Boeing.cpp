@@ -174,6 +174,7 @@ void Boeing::drawDeck(Canvas& picture)
             cargocheck();
     }
     fillPass(picture);
+    picture.markRepeated(); // every pointer movement redraws the deck before its label
 }
 
 void Boeing::fillPass(Canvas& picture)

@@ -26,6 +26,9 @@ public:
     // Keeps what is drawn now as the picture's background picture, which clear() restores from then
     // on: a seat map drawn once under markers that come and go.
     void keepAsBackground() { doKeepAsBackground(); }
+    // Marks what has been drawn since clear() as a drawing that comes back the same at most redraws
+    // (a deck under a moving pointer): a canvas may keep that picture and skip drawing it again.
+    void markRepeated() { doMarkRepeated(); }
     void line(double x1, double y1, double x2, double y2, Rgb colour);
     // A rectangle with a one-pixel outline, filled with the current fill style and colour.
     void box(double x1, double y1, double x2, double y2, Rgb outline);
@@ -68,6 +71,7 @@ protected:
     // Restores the background picture kept last, or a blank picture when none was.
     virtual void doClear() = 0;
     virtual void doKeepAsBackground() = 0;
+    virtual void doMarkRepeated() {}
     virtual void doLine(double x1, double y1, double x2, double y2, Rgb colour) = 0;
     virtual void doBox(double x1, double y1, double x2, double y2, Rgb outline) = 0;
     virtual void doCircle(double cx, double cy, double radius, Rgb outline) = 0;

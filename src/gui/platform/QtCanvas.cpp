@@ -97,21 +97,151 @@ void QtCanvas::fillSpan(int left, int right, int y)
         line[x] = colour;
 }
 
-void QtCanvas::doClear()
+void QtCanvas::erase()
 {
     if (m_backgroundImage.isNull())
         m_image.fill(m_background);
     else
         m_image = m_backgroundImage; // shared until the next drawing takes its rows
+}
+
+void QtCanvas::doClear()
+{
+    if (m_repeats) {
+        m_deferring = true;
+        m_strokes.clear();
+        return;
+    }
+    erase();
     changed();
 }
 
 void QtCanvas::doKeepAsBackground()
 {
+    drawDeferred();
     m_backgroundImage = m_image;
+    m_keptStrokes.clear();
+    m_keptImage = QImage();
+}
+
+void QtCanvas::doMarkRepeated()
+{
+    if (!m_deferring) {
+        // From the next clear on, drawings are held back and compared with the one kept.
+        m_repeats = true;
+        return;
+    }
+    m_deferring = false;
+    if (!m_keptImage.isNull() && m_strokes == m_keptStrokes) {
+        m_image = m_keptImage; // shared until the next drawing takes its rows
+    } else {
+        erase();
+        replay(m_strokes);
+        m_keptStrokes.swap(m_strokes);
+        m_keptImage = m_image;
+    }
+    changed();
+}
+
+bool QtCanvas::heldBack(Stroke::Kind kind, double a, double b, double c, double d, Rgb colour,
+                        std::string_view text)
+{
+    if (!m_deferring)
+        return false;
+    m_strokes.push_back({kind, a, b, c, d, colour, fillStyle(), fillColor(), foreColor(), fontSize(),
+                         fontBold(), std::string(text)});
+    return true;
+}
+
+void QtCanvas::drawDeferred()
+{
+    if (!m_deferring)
+        return;
+    m_deferring = false;
+    erase();
+    replay(m_strokes);
+    changed();
+}
+
+void QtCanvas::replay(const std::vector<Stroke>& strokes)
+{
+    const FillStyle style = fillStyle();
+    const Rgb fill = fillColor();
+    const Rgb fore = foreColor();
+    const double size = fontSize();
+    const bool bold = fontBold();
+    for (const Stroke& stroke : strokes) {
+        setFillStyle(stroke.fillStyle);
+        setFillColor(stroke.fillColour);
+        setForeColor(stroke.foreColour);
+        if (stroke.fontSize != fontSize() || stroke.bold != fontBold())
+            setFont(stroke.fontSize, stroke.bold);
+        switch (stroke.kind) {
+        case Stroke::Kind::Line:
+            drawLine(stroke.a, stroke.b, stroke.c, stroke.d, stroke.colour);
+            break;
+        case Stroke::Kind::Box:
+            drawBox(stroke.a, stroke.b, stroke.c, stroke.d, stroke.colour);
+            break;
+        case Stroke::Kind::Circle:
+            drawCircle(stroke.a, stroke.b, stroke.c, stroke.colour);
+            break;
+        case Stroke::Kind::FloodFill:
+            drawFloodFill(static_cast<int>(stroke.a), static_cast<int>(stroke.b));
+            break;
+        case Stroke::Kind::Text:
+            drawText(stroke.a, stroke.b, stroke.text);
+            break;
+        }
+    }
+    setFillStyle(style);
+    setFillColor(fill);
+    setForeColor(fore);
+    if (size != fontSize() || bold != fontBold())
+        setFont(size, bold);
 }
 
 void QtCanvas::doLine(double x1, double y1, double x2, double y2, Rgb colour)
+{
+    if (heldBack(Stroke::Kind::Line, x1, y1, x2, y2, colour))
+        return;
+    drawLine(x1, y1, x2, y2, colour);
+    changed();
+}
+
+void QtCanvas::doBox(double x1, double y1, double x2, double y2, Rgb outline)
+{
+    if (heldBack(Stroke::Kind::Box, x1, y1, x2, y2, outline))
+        return;
+    drawBox(x1, y1, x2, y2, outline);
+    changed();
+}
+
+void QtCanvas::doCircle(double cx, double cy, double radius, Rgb outline)
+{
+    if (heldBack(Stroke::Kind::Circle, cx, cy, radius, 0, outline))
+        return;
+    drawCircle(cx, cy, radius, outline);
+    changed();
+}
+
+void QtCanvas::doFloodFill(int px, int py)
+{
+    if (heldBack(Stroke::Kind::FloodFill, px, py))
+        return;
+    drawFloodFill(px, py);
+    changed();
+}
+
+void QtCanvas::doText(double x, double y, std::string_view text)
+{
+    if (heldBack(Stroke::Kind::Text, x, y, 0, 0, {}, text))
+        return;
+    drawText(x, y, text);
+    changed();
+}
+
+void QtCanvas::drawLine(double x1, double y1, double x2, double y2, Rgb colour)
 {
     takeRows();
     // Bresenham, both ends included.
@@ -139,10 +269,9 @@ void QtCanvas::doLine(double x1, double y1, double x2, double y2, Rgb colour)
             y += stepY;
         }
     }
-    changed();
 }
 
-void QtCanvas::doBox(double x1, double y1, double x2, double y2, Rgb outline)
+void QtCanvas::drawBox(double x1, double y1, double x2, double y2, Rgb outline)
 {
     takeRows();
     const int left = std::min(device(x1), device(x2));
@@ -158,10 +287,9 @@ void QtCanvas::doBox(double x1, double y1, double x2, double y2, Rgb outline)
         plot(left, y, pen);
         plot(right, y, pen);
     }
-    changed();
 }
 
-void QtCanvas::doCircle(double cx, double cy, double radius, Rgb outline)
+void QtCanvas::drawCircle(double cx, double cy, double radius, Rgb outline)
 {
     takeRows();
     cx *= m_ratio;
@@ -201,10 +329,9 @@ void QtCanvas::doCircle(double cx, double cy, double radius, Rgb outline)
             span(left, right, y, pen);
         }
     }
-    changed();
 }
 
-void QtCanvas::doFloodFill(int px, int py)
+void QtCanvas::drawFloodFill(int px, int py)
 {
     takeRows();
     const QRgb border = toQRgb(foreColor()) & 0xFFFFFF;
@@ -212,7 +339,6 @@ void QtCanvas::doFloodFill(int px, int py)
         m_width, m_height, device(px + 0.5), device(py + 0.5),
         [this, border](int x, int y) { return (row(y)[x] & 0xFFFFFF) == border; },
         [this](int left, int right, int y) { fillSpan(left, right, y); }, m_floodScratch);
-    changed();
 }
 
 const QtCanvas::RenderedText& QtCanvas::rendered(std::string_view text)
@@ -250,7 +376,7 @@ const QtCanvas::RenderedText& QtCanvas::rendered(std::string_view text)
     return m_texts.emplace(std::move(key), std::move(result)).first->second;
 }
 
-void QtCanvas::doText(double x, double y, std::string_view text)
+void QtCanvas::drawText(double x, double y, std::string_view text)
 {
     takeRows();
     const RenderedText& words = rendered(text);
@@ -268,7 +394,6 @@ void QtCanvas::doText(double x, double y, std::string_view text)
         under = qRgb(mix(qRed(under), qRed(fore)), mix(qGreen(under), qGreen(fore)),
                      mix(qBlue(under), qBlue(fore)));
     }
-    changed();
 }
 
 double QtCanvas::textWidthPixels(std::string_view text)

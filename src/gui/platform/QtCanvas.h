@@ -18,7 +18,8 @@ namespace quillet {
 // A picture box drawn into an image, the way the old toolkit drew on a window's device context:
 // one-pixel lines, filled shapes and a real flood fill, set pixel by pixel, and text drawn by Qt.
 // Every pointer movement over a deck redraws the whole picture, so the shapes are rasterised here
-// directly and each text is rendered once and then copied.
+// directly, each text is rendered once and then copied, and a drawing marked as repeated is kept
+// and put back whole when it comes again the same.
 class QtCanvas final : public Canvas {
 public:
     // `pixelRatio` is the screen's device pixel ratio: the image has that many pixels to each of the
@@ -28,7 +29,11 @@ public:
              double pixelRatio = 1.0);
 
     // Carries the pixel ratio, so that it is drawn at the picture's size.
-    const QImage& image() const { return m_image; }
+    const QImage& image()
+    {
+        drawDeferred();
+        return m_image;
+    }
     double pixelRatio() const { return m_ratio; }
     // Called after every drawing operation, so that the widget showing the image can repaint.
     std::function<void()> onChanged;
@@ -36,6 +41,7 @@ public:
 protected:
     void doClear() override;
     void doKeepAsBackground() override;
+    void doMarkRepeated() override;
     void doLine(double x1, double y1, double x2, double y2, Rgb colour) override;
     void doBox(double x1, double y1, double x2, double y2, Rgb outline) override;
     void doCircle(double cx, double cy, double radius, Rgb outline) override;
@@ -46,7 +52,41 @@ protected:
     void fontChanged() override;
 
 private:
+    // One drawing operation with the state it is drawn in, held back from the image while a drawing
+    // that may repeat the kept one is compared with it.
+    struct Stroke {
+        enum class Kind { Line, Box, Circle, FloodFill, Text };
+        Kind kind = Kind::Line;
+        double a = 0;
+        double b = 0;
+        double c = 0;
+        double d = 0;
+        Rgb colour;
+        FillStyle fillStyle = FillStyle::Transparent;
+        Rgb fillColour;
+        Rgb foreColour;
+        double fontSize = 0;
+        bool bold = false;
+        std::string text;
+
+        bool operator==(const Stroke&) const = default;
+    };
+
     void changed();
+    // The picture's background, before anything is drawn on it.
+    void erase();
+    // Holds the operation back when a repeated drawing is being compared; false when it is to be
+    // drawn now.
+    bool heldBack(Stroke::Kind kind, double a, double b, double c = 0, double d = 0, Rgb colour = {},
+                  std::string_view text = {});
+    // Draws what was held back since the last clear, on a fresh background.
+    void drawDeferred();
+    void replay(const std::vector<Stroke>& strokes);
+    void drawLine(double x1, double y1, double x2, double y2, Rgb colour);
+    void drawBox(double x1, double y1, double x2, double y2, Rgb outline);
+    void drawCircle(double cx, double cy, double radius, Rgb outline);
+    void drawFloodFill(int px, int py);
+    void drawText(double x, double y, std::string_view text);
     // Pixels are written straight into the image; a drawing operation first takes its rows.
     void takeRows();
     QRgb* row(int y) { return m_bits + static_cast<std::ptrdiff_t>(y) * m_stride; }
@@ -85,6 +125,12 @@ private:
     std::optional<QFontMetricsF> m_metrics;
     std::unordered_map<std::string, RenderedText> m_texts;
     std::vector<std::uint8_t> m_floodScratch;
+    // Once a drawing is marked as repeated, every clear holds the drawing back until the mark.
+    bool m_repeats = false;
+    bool m_deferring = false;
+    std::vector<Stroke> m_strokes; // held back since the last clear
+    std::vector<Stroke> m_keptStrokes;
+    QImage m_keptImage; // the picture m_keptStrokes drew
 };
 
 } // namespace quillet

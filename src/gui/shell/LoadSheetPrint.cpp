@@ -78,7 +78,7 @@ QString text(const std::string& s)
 }
 
 // Draws a canvas made at the device's resolution into a rectangle of the page (in points).
-void drawCanvas(QPainter& painter, const QtCanvas& canvas, const QRectF& target)
+void drawCanvas(QPainter& painter, QtCanvas& canvas, const QRectF& target)
 {
     painter.drawImage(target, canvas.image());
 }

@@ -5,7 +5,7 @@
 namespace quillet {
 namespace {
 
-QRgb at(const QtCanvas& canvas, int x, int y)
+QRgb at(QtCanvas& canvas, int x, int y)
 {
     return canvas.image().pixel(x, y) & 0xFFFFFF;
 }
@@ -43,6 +43,53 @@ TEST(QtCanvas, ClearGoesBackToTheKeptBackground)
     canvas.circle(750, 150, 150, kGreen);
     canvas.clear();
     EXPECT_EQ(at(canvas, 50, 12), kWhitePixel) << "drawing after a clear leaves the background as kept";
+}
+
+// A deck-like drawing: a hold hatched by a flood fill, seats, a caption in a font of its own.
+void drawDeck(QtCanvas& canvas, bool holdLoaded, bool marked)
+{
+    canvas.clear();
+    canvas.setFont(12, true);
+    canvas.setCurrentPoint(150, 150);
+    canvas.print("Deck");
+    canvas.setFont(8.25, false);
+    canvas.setFillStyle(FillStyle::Transparent);
+    canvas.box(150, 450, 900, 1200, kBlack);
+    canvas.setFillStyle(FillStyle::Solid);
+    canvas.setFillColor(kGreen);
+    canvas.circle(1200, 600, 120, kBlack);
+    if (holdLoaded) {
+        canvas.setForeColor(kBlack);
+        canvas.setFillStyle(FillStyle::DiagonalCross);
+        canvas.setFillColor(kRed);
+        canvas.floodFill(30, 50);
+    }
+    canvas.setFillStyle(FillStyle::Transparent);
+    if (marked)
+        canvas.markRepeated();
+}
+
+TEST(QtCanvas, ARepeatedDrawingComesBackAsIfDrawnAfresh)
+{
+    QtCanvas marked(1500, 1500, {255, 255, 255}, 2.0);
+    QtCanvas plain(1500, 1500, {255, 255, 255}, 2.0);
+    // Kept and put back, changed, read half-drawn, and a label drawn over the repeated part with
+    // the state the drawing left.
+    for (const bool loaded : {false, false, true, true, false, true}) {
+        drawDeck(marked, loaded, true);
+        drawDeck(plain, loaded, false);
+        for (QtCanvas* canvas : {&marked, &plain}) {
+            canvas->setCurrentPoint(450, 1275);
+            canvas->print(loaded ? "Hold 2000 lb." : "Hold empty");
+        }
+        ASSERT_EQ(marked.image(), plain.image()) << "hold loaded: " << loaded;
+    }
+    marked.clear();
+    plain.clear();
+    marked.box(150, 150, 300, 300, kBlack);
+    plain.box(150, 150, 300, 300, kBlack);
+    EXPECT_EQ(marked.image(), plain.image()) << "read before the drawing is marked";
+    EXPECT_EQ(at(marked, 20, 20), kBlackPixel) << "the box's corner, at twice the pixels";
 }
 
 TEST(QtCanvas, FloodFillStopsAtTheForeColour)
