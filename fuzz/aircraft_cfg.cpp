@@ -24,16 +24,35 @@ const std::string kType = "Beech 1900D";
 const std::filesystem::path kRoot = "/quillet";
 const std::filesystem::path kCfg = kRoot / "fs2000/aircraft/beech/aircraft.cfg";
 
-void setUp(quillet::Session& session)
-{
-    quillet::LoadState& s = session.state;
-    s.simfolder = (kRoot / "fs2000").string();
-    s.nmenu = 1;
-    s.menutype[0] = kType;
-    s.menufolder[0] = "beech";
-    quillet::setUpSmallType(s);
-    session.currentType = [] { return kType; };
-}
+// One program folder and load state serve every input, as they serve a user's session; an input
+// starts from the simulator folder and the type as set up.
+struct Rig {
+    quillet::MemoryFileSystem disk;
+    quillet::ScriptedPrompt prompt;
+    quillet::ScriptedRandom random;
+    const quillet::FixedClock clock{quillet::Date{2001, 3, 7}};
+    quillet::Session session{prompt, random, clock, kRoot / "program"};
+
+    Rig()
+    {
+        session.files = quillet::Files(disk);
+        session.currentType = [] { return kType; };
+        quillet::LoadState& s = session.state;
+        s.simfolder = (kRoot / "fs2000").string();
+        s.nmenu = 1;
+        s.menutype[0] = kType;
+        s.menufolder[0] = "beech";
+    }
+
+    void start(std::string_view bytes)
+    {
+        disk = quillet::MemoryFileSystem();
+        disk.addFolder(kRoot / "program");
+        disk.put(kCfg, bytes);
+        quillet::setUpSmallType(session.state);
+        session.messages.take();
+    }
+};
 
 bool told(const quillet::Session& session, std::string_view part)
 {
@@ -49,16 +68,11 @@ bool told(const quillet::Session& session, std::string_view part)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    quillet::MemoryFileSystem disk;
-    disk.addFolder(kRoot / "program");
-    disk.put(kCfg, bytes);
-
-    quillet::ScriptedPrompt prompt;
-    quillet::ScriptedRandom random;
-    const quillet::FixedClock clock{quillet::Date{2001, 3, 7}};
-    quillet::Session session(prompt, random, clock, kRoot / "program");
-    session.files = quillet::Files(disk);
-    setUp(session);
+    static Rig rig;
+    rig.start(bytes);
+    quillet::MemoryFileSystem& disk = rig.disk;
+    quillet::Session& session = rig.session;
+    const quillet::FixedClock& clock = rig.clock;
     const auto buffer = quillet::bufferAircraftFile(bytes, quillet::kCfgLineCapacity);
     const bool read = static_cast<bool>(quillet::readcfg(session));
     QUILLET_FUZZ_CHECK(read == static_cast<bool>(buffer));
@@ -76,7 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto fits = quillet::checkSection(lines, sectionlines, "\"" + kCfg.string() + "\"");
     const auto block = quillet::weightAndBalanceBlock(session.state, kType, clock.today());
     const std::string expected = fits ? quillet::rewriteAircraftFile(lines, sectionlines, block) : "";
-    const bool tooManyLines = quillet::splitLines(expected).size() > quillet::kCfgLineCapacity;
+    const bool tooManyLines = quillet::countLines(expected) > quillet::kCfgLineCapacity;
     const bool tooLarge = expected.size() > quillet::kMaxFileBytes;
 
     const bool saved = static_cast<bool>(quillet::writecfg(session));

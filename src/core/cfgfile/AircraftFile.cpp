@@ -20,28 +20,65 @@ bool blanksBefore(std::string_view line, std::size_t end, bool firstLine)
     return end >= start && line.substr(start, end - start).find_first_not_of(" \t") == std::string_view::npos;
 }
 
+// Calls onLine with each line of the bytes, without its line end. Line ends are looked for with
+// the library's search, not byte by byte, since files are read in full at every save.
+template <class OnLine>
+void forEachLine(std::string_view bytes, OnLine&& onLine)
+{
+    constexpr auto npos = std::string_view::npos;
+    std::size_t cr = bytes.find('\r');
+    std::size_t lf = bytes.find('\n');
+    std::size_t start = 0;
+    while (start < bytes.size()) {
+        if (cr != npos && cr < start)
+            cr = bytes.find('\r', start);
+        if (lf != npos && lf < start)
+            lf = bytes.find('\n', start);
+        const std::size_t end = std::min(cr, lf);
+        if (end == npos) {
+            onLine(bytes.substr(start));
+            return;
+        }
+        onLine(bytes.substr(start, end - start));
+        start = end + 1;
+        if (bytes[end] == '\r' && start < bytes.size() && bytes[start] == '\n')
+            ++start;
+    }
+}
+
+// Where the section header's name starts in the line, letter case aside, or npos.
+std::size_t findSectionHeader(std::string_view line)
+{
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    for (std::size_t at = line.find('['); at != std::string_view::npos; at = line.find('[', at + 1)) {
+        const std::string_view rest = line.substr(at, kSectionHeader.size());
+        if (rest.size() == kSectionHeader.size() &&
+            std::equal(rest.begin(), rest.end(), kSectionHeader.begin(),
+                       [&](char a, char b) { return lower(a) == b; }))
+            return at;
+    }
+    return std::string_view::npos;
+}
+
 } // namespace
 
 std::vector<std::string> splitLines(std::string_view bytes)
 {
     std::vector<std::string> lines;
-    std::size_t start = 0;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        if (bytes[i] != '\r' && bytes[i] != '\n')
-            continue;
-        lines.emplace_back(bytes.substr(start, i - start));
-        if (bytes[i] == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n')
-            ++i;
-        start = i + 1;
-    }
-    if (start < bytes.size())
-        lines.emplace_back(bytes.substr(start));
+    forEachLine(bytes, [&](std::string_view line) { lines.emplace_back(line); });
     return lines;
+}
+
+std::size_t countLines(std::string_view bytes)
+{
+    std::size_t count = 0;
+    forEachLine(bytes, [&](std::string_view) { ++count; });
+    return count;
 }
 
 bool isSectionHeader(std::string_view line)
 {
-    return lowerAscii(line).find(kSectionHeader) != std::string::npos;
+    return findSectionHeader(line) != std::string_view::npos;
 }
 
 int measureSection(std::span<const std::string> lines)
@@ -105,7 +142,7 @@ Status checkSection(std::span<const std::string> lines, int sectionlines, const 
         return "line " + std::to_string(i + 1) + " of " + fileName + ", \"" + lines[i] + "\",";
     };
     const std::string& line = lines[header];
-    if (!blanksBefore(line, lowerAscii(line).find(kSectionHeader), header == 0)) {
+    if (!blanksBefore(line, findSectionHeader(line), header == 0)) {
         return Error{
             lineOf(header) +
             " holds \"[WEIGHT_AND_BALANCE]\" after other text, so it is not the section's header line; "

@@ -19,6 +19,8 @@ struct AircraftLines {
 // Splits at CR LF, LF or CR; a last line without a line end still counts. Bytes are kept as they are,
 // whatever their encoding.
 std::vector<std::string> splitLines(std::string_view bytes);
+// How many lines splitLines finds.
+std::size_t countLines(std::string_view bytes);
 
 // Whether the line holds "[WEIGHT_AND_BALANCE]", letter case aside.
 bool isSectionHeader(std::string_view line);

@@ -12,44 +12,59 @@ namespace quillet {
 
 namespace {
 
+// What a field is, for messages: "the empty weight", or "the label of station 12". Put into words
+// only when a message needs it, since a file has thousands of fields.
+struct What {
+    std::string_view field;
+    int station = -1;
+
+    std::string text() const
+    {
+        std::string words(field);
+        if (station >= 0)
+            words += " station " + std::to_string(station);
+        return words;
+    }
+};
+
 // Takes the fields of a station file one by one; the first problem met is kept and every later
 // read is skipped, so the parser reads straight through and checks once at the end.
 class FieldReader {
 public:
     explicit FieldReader(std::string_view text) : m_reader(text) {}
 
-    float number(const std::string& what)
+    float number(What what)
     {
         const auto value = numeric(what, "a number");
         if (value && !std::isfinite(static_cast<float>(*value)))
-            fail(m_last.line, what + " is too large: \"" + m_last.text + "\"");
+            fail(m_last.line, what.text() + " is too large: \"" + m_last.text + "\"");
         return ok() && value ? static_cast<float>(*value) : 0;
     }
 
     // A station can hold no more than the whole aircraft may weigh at take-off: anything above is a
     // typing slip, and would go into aircraft.cfg as a number the simulator cannot fly.
-    float weight(const std::string& what, float maxtakeoff)
+    float weight(What what, float maxtakeoff)
     {
         const float value = number(what);
         if (value < 0)
-            fail(m_last.line, what + " is negative: \"" + m_last.text + "\"");
+            fail(m_last.line, what.text() + " is negative: \"" + m_last.text + "\"");
         else if (value > maxtakeoff)
-            fail(m_last.line, what + " is \"" + m_last.text +
+            fail(m_last.line, what.text() + " is \"" + m_last.text +
                                   "\" lb, more than the maximum take-off weight of " +
                                   shortestNumber(maxtakeoff) + " lb");
         return value;
     }
 
-    int count(const std::string& what)
+    int count(What what)
     {
         const std::string expected = "a whole number from 0 to " + std::to_string(kStationCapacity);
         const auto value = numeric(what, expected);
         if (value && (*value < 0 || *value > kStationCapacity || *value != std::floor(*value)))
-            fail(m_last.line, what + " should be " + expected + " but is \"" + m_last.text + "\"");
+            fail(m_last.line, what.text() + " should be " + expected + " but is \"" + m_last.text + "\"");
         return ok() && value ? static_cast<int>(*value) : 0;
     }
 
-    std::string label(const std::string& what)
+    std::string label(What what)
     {
         const auto field = take(what);
         if (!field)
@@ -57,15 +72,15 @@ public:
         // A label becomes the end of a line of aircraft.cfg, where a "[" would end the weight and
         // balance section the next time the file is read.
         if (!field->quoted)
-            fail(field->line, what + " should be a text in double quotes but is " + field->text);
+            fail(field->line, what.text() + " should be a text in double quotes but is " + field->text);
         else if (field->textAfterQuote)
-            fail(field->line, what + " \"" + field->text +
+            fail(field->line, what.text() + " \"" + field->text +
                                   "\" is followed by more text after its closing double quote; a double "
                                   "quote inside a label is written as two (\"\")");
         else if (field->text.find_first_of("\r\n") != std::string::npos)
-            fail(field->line, what + " has no closing double quote on its line");
+            fail(field->line, what.text() + " has no closing double quote on its line");
         else if (field->text.find('[') != std::string::npos)
-            fail(field->line, what + " \"" + field->text +
+            fail(field->line, what.text() + " \"" + field->text +
                                   "\" holds a \"[\", which aircraft.cfg would read as a new section");
         return field->text;
     }
@@ -86,29 +101,29 @@ public:
     const std::string& error() const { return m_error; }
 
 private:
-    std::optional<DelimitedReader::Field> take(const std::string& what)
+    std::optional<DelimitedReader::Field> take(What what)
     {
         if (!ok())
             return std::nullopt;
         auto field = m_reader.next();
         if (!field) {
-            fail(m_last.line, "the file ends before " + what);
+            fail(m_last.line, "the file ends before " + what.text());
             return std::nullopt;
         }
         m_last = *field;
         return field;
     }
 
-    std::optional<double> numeric(const std::string& what, const std::string& expected)
+    std::optional<double> numeric(What what, const std::string& expected)
     {
         const auto field = take(what);
         if (!field)
             return std::nullopt;
         double value = 0;
         if (field->quoted)
-            fail(field->line, what + " should be " + expected + ", not a text in double quotes");
+            fail(field->line, what.text() + " should be " + expected + ", not a text in double quotes");
         else if (!parseNumber(field->text, value))
-            fail(field->line, what + " should be " + expected + " but is \"" + field->text + "\"");
+            fail(field->line, what.text() + " should be " + expected + " but is \"" + field->text + "\"");
         else
             return value;
         return std::nullopt;
@@ -126,57 +141,84 @@ std::string rounded(float value, int decimals)
 
 // The first two lines of the file, in their order: the counts are whole numbers, the limits any.
 struct HeaderField {
-    int LoadState::*count;
-    float LoadState::*limit;
+    int StationHeader::*count;
+    float StationHeader::*limit;
     const char* what;
 };
 constexpr HeaderField kHeader[] = {
-    {&LoadState::cfgstations, nullptr, "the number of station_load lines"},
-    {nullptr, &LoadState::maxtakeoff, "the maximum take-off weight"},
-    {nullptr, &LoadState::maxlanding, "the maximum landing weight"},
-    {nullptr, &LoadState::emptyweight, "the empty weight"},
-    {nullptr, &LoadState::maxzerofuel, "the maximum zero-fuel weight"},
-    {nullptr, &LoadState::maxfuel, "the fuel capacity"},
-    {&LoadState::nstations, nullptr, "the number of person stations"},
-    {&LoadState::ncargo, nullptr, "the number of cargo stations"},
-    {&LoadState::nlower, nullptr, "the number of lower-deck holds"},
-    {&LoadState::ncrew, nullptr, "the number of crew stations"},
-    {&LoadState::seats1, nullptr, "the first-class seats"},
-    {&LoadState::seats2, nullptr, "the second-class seats"},
-    {&LoadState::seats3, nullptr, "the third-class seats"},
+    {&StationHeader::cfgstations, nullptr, "the number of station_load lines"},
+    {nullptr, &StationHeader::maxtakeoff, "the maximum take-off weight"},
+    {nullptr, &StationHeader::maxlanding, "the maximum landing weight"},
+    {nullptr, &StationHeader::emptyweight, "the empty weight"},
+    {nullptr, &StationHeader::maxzerofuel, "the maximum zero-fuel weight"},
+    {nullptr, &StationHeader::maxfuel, "the fuel capacity"},
+    {&StationHeader::nstations, nullptr, "the number of person stations"},
+    {&StationHeader::ncargo, nullptr, "the number of cargo stations"},
+    {&StationHeader::nlower, nullptr, "the number of lower-deck holds"},
+    {&StationHeader::ncrew, nullptr, "the number of crew stations"},
+    {&StationHeader::seats1, nullptr, "the first-class seats"},
+    {&StationHeader::seats2, nullptr, "the second-class seats"},
+    {&StationHeader::seats3, nullptr, "the third-class seats"},
 };
 constexpr std::size_t kFirstLineFields = 6;
 
 } // namespace
 
-Result<LoadState> withStationFile(std::string_view text, LoadState state)
+Result<StationTable> readStationFile(std::string_view text)
 {
     // Notepad puts a UTF-8 mark before a file it saves; it is not part of the first number.
     if (text.starts_with("\xEF\xBB\xBF"))
         text.remove_prefix(3);
     FieldReader in(text);
+    StationHeader header;
     for (const HeaderField& field : kHeader) {
         if (field.count)
-            state.*field.count = in.count(field.what);
+            header.*field.count = in.count({field.what});
         else
-            state.*field.limit = in.number(field.what);
+            header.*field.limit = in.number({field.what});
     }
-    if (in.ok() && state.stationsInUse() > kStationCapacity) {
-        in.fail(2, "it lists " + std::to_string(state.nstations) + " person and " +
-                       std::to_string(state.ncargo) + " cargo stations, more than the " +
+    const int stations = header.nstations + header.ncargo;
+    if (in.ok() && stations > kStationCapacity) {
+        in.fail(2, "it lists " + std::to_string(header.nstations) + " person and " +
+                       std::to_string(header.ncargo) + " cargo stations, more than the " +
                        std::to_string(kStationCapacity) + " this program can hold");
     }
-    for (int i = 0; i < state.stationsInUse() && in.ok(); ++i) {
-        const std::string which = "station " + std::to_string(i);
-        state.stationname[i] = in.label("the label of " + which);
-        state.stationx[i] = in.number("the x position of " + which);
-        state.stationy[i] = in.number("the y position of " + which);
-        state.stationz[i] = in.number("the z position of " + which);
-        state.stationweight[i] = in.weight("the weight of " + which, state.maxtakeoff);
+    StationTable table{header, {}};
+    if (in.ok())
+        table.rows.reserve(static_cast<std::size_t>(stations));
+    for (int i = 0; i < stations && in.ok(); ++i) {
+        StationTable::Row& row = table.rows.emplace_back();
+        row.name = in.label({"the label of", i});
+        row.x = in.number({"the x position of", i});
+        row.y = in.number({"the y position of", i});
+        row.z = in.number({"the z position of", i});
+        row.weight = in.weight({"the weight of", i}, header.maxtakeoff);
     }
     in.expectEnd();
     if (!in.ok())
         return Error{in.error()};
+    return table;
+}
+
+void takeStationTable(StationTable&& table, LoadState& state)
+{
+    static_cast<StationHeader&>(state) = table.header;
+    for (std::size_t i = 0; i < table.rows.size(); ++i) {
+        StationTable::Row& row = table.rows[i];
+        state.stationname[i] = std::move(row.name);
+        state.stationx[i] = row.x;
+        state.stationy[i] = row.y;
+        state.stationz[i] = row.z;
+        state.stationweight[i] = row.weight;
+    }
+}
+
+Result<LoadState> withStationFile(std::string_view text, LoadState state)
+{
+    auto table = readStationFile(text);
+    if (!table)
+        return table.error();
+    takeStationTable(std::move(table).value(), state);
     return state;
 }
 

@@ -45,10 +45,10 @@ fs::path stationFile(const Session& session, const std::string& type)
     return resolvePath(type + ".cfg", session.programFolder, session.files.system());
 }
 
-void fillBuffer(LoadState& state, const AircraftLines& buffer)
+void fillBuffer(LoadState& state, AircraftLines&& buffer)
 {
     state.cfglines.fill({});
-    std::copy(buffer.lines.begin(), buffer.lines.end(), state.cfglines.begin());
+    std::move(buffer.lines.begin(), buffer.lines.end(), state.cfglines.begin());
     state.cfgcount = static_cast<int>(buffer.lines.size());
     state.sectionlines = buffer.sectionlines;
 }
@@ -73,14 +73,14 @@ Status readFiles(Session& session, const std::string& type)
         return Error{quoted(cfgPath) + " " + buffer.error().message + "." + notRead};
 
     const fs::path stationPath = stationFile(session, type);
-    std::optional<LoadState> stored;
+    std::optional<StationTable> stored;
     if (fileExists(type + ".cfg", session.programFolder, session.files.system())) {
         auto text = session.files.read(stationPath, kMaxFileBytes);
         if (!text)
             return Error{text.error().message + notRead};
         if (const auto notText = whyNotText(text.value()))
             return Error{"The station file " + quoted(stationPath) + " " + *notText + "." + notRead};
-        auto parsed = withStationFile(text.value(), session.state);
+        auto parsed = readStationFile(text.value());
         if (!parsed) {
             return Error{"The station file " + quoted(stationPath) +
                          " cannot be used: " + parsed.error().message + "." + notRead +
@@ -102,14 +102,14 @@ Status readFiles(Session& session, const std::string& type)
 
     LoadState& state = session.state;
     if (stored) {
-        state = std::move(*stored); // a copy of the state taken above, nothing else has changed it since
+        takeStationTable(std::move(*stored), state);
     } else if (auto created = session.files.replace(stationPath, stationFileText(state)); !created) {
         session.messages.report("The station file could not be created: " + created.error().message +
                                 " The built-in table of \"" + type +
                                 "\" is used, and the next save writes the file.");
     }
     state.loadweight = state.sumOfWeights();
-    fillBuffer(state, buffer.value());
+    fillBuffer(state, std::move(buffer).value());
     state.cfgsource = CfgSource{true, type, cfgPath, std::move(bytes)};
     return success();
 }
@@ -148,7 +148,7 @@ Status writeFiles(Session& session)
             return Error{"Nothing was saved: " + quoted(cfgPath) +
                          " was changed by another program and now " + buffer.error().message + "."};
         }
-        fillBuffer(state, buffer.value());
+        fillBuffer(state, std::move(buffer).value());
         source.bytes = std::move(onDisk).value();
         session.messages.report(quoted(cfgPath) +
                                 " was changed by another program since it was read; its changes outside the "
@@ -164,7 +164,7 @@ Status writeFiles(Session& session)
 
     // A file the reader would refuse locks the user out of the aircraft, so it is never written.
     const std::string grown = "Nothing was saved: with the new weight and balance section " + quoted(cfgPath);
-    const auto savedLines = splitLines(text).size();
+    const auto savedLines = countLines(text);
     if (savedLines > static_cast<std::size_t>(kCfgLineCapacity)) {
         return Error{grown + " would have " + std::to_string(savedLines) + " lines, more than the " +
                      std::to_string(kCfgLineCapacity) +
@@ -178,7 +178,8 @@ Status writeFiles(Session& session)
 
     // Nor is a station file the reader would refuse (a weight typed below 0 or above the take-off
     // weight): it would lock the user out of the type's load the same way.
-    if (auto back = withStationFile(stationFileText(state), state); !back) {
+    const std::string stations = stationFileText(state);
+    if (auto back = readStationFile(stations); !back) {
         return Error{"Nothing was saved: the station file " + quoted(stationFile(session, type)) +
                      " would not read back: " + back.error().message +
                      ". Change that station's load, then save again."};
@@ -190,7 +191,7 @@ Status writeFiles(Session& session)
     auto newCfg = session.files.prepare(cfgPath, text);
     if (!newCfg)
         return Error{"Nothing was saved: " + newCfg.error().message};
-    auto newStations = session.files.prepare(stationFile(session, type), stationFileText(state));
+    auto newStations = session.files.prepare(stationFile(session, type), stations);
     if (!newStations)
         return Error{"Nothing was saved: " + newStations.error().message};
     if (auto renamed = session.files.rename(newCfg.value()); !renamed)

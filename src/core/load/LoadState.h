@@ -24,10 +24,30 @@ struct CfgSource {
     std::string bytes;          // that file's bytes as read (or as last written by us)
 };
 
+// The counts and limits of a type, as the first two lines of its station file hold them.
+struct StationHeader {
+    // Counts of the type: persons (crew and passenger seats) first, then cargo stations.
+    int nstations = 0;
+    int ncargo = 0;
+    int nlower = 0;
+    int ncrew = 0;
+    int seats1 = 0;
+    int seats2 = 0;
+    int seats3 = 0;
+    int cfgstations = 0;
+
+    // Limits of the type.
+    float emptyweight = 0;
+    float maxtakeoff = 0;
+    float maxlanding = 0;
+    float maxzerofuel = 0;
+    float maxfuel = 0;
+};
+
 // The one load state of the program: the station table and limits of the aircraft type that is set
 // up, the totals derived from its stations, the buffered aircraft.cfg and the active aircraft menu.
 // Weights are pounds, positions feet; at start every number is 0 and every text empty.
-struct LoadState {
+struct LoadState : StationHeader {
     // Station table, indexed by station number from 0.
     std::array<std::string, kStationCapacity> stationname{};
     std::array<float, kStationCapacity> stationweight{};
@@ -40,23 +60,7 @@ struct LoadState {
     std::array<std::int16_t, kMarkerCapacity> stationpy{};
     std::array<std::array<float, 4>, kContainerBoxCapacity> containerbox{};
 
-    // Counts of the type: persons (crew and passenger seats) first, then cargo stations.
-    int nstations = 0;
-    int ncargo = 0;
-    int nlower = 0;
-    int ncrew = 0;
     int maxpax = 0;
-    int seats1 = 0;
-    int seats2 = 0;
-    int seats3 = 0;
-    int cfgstations = 0;
-
-    // Limits of the type.
-    float emptyweight = 0;
-    float maxtakeoff = 0;
-    float maxlanding = 0;
-    float maxzerofuel = 0;
-    float maxfuel = 0;
 
     // Derived totals.
     float loadweight = 0;

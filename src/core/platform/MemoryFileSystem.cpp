@@ -6,17 +6,46 @@ namespace quillet {
 
 namespace {
 
+// Whether the path names a "." or ".." part or doubles a slash, so that it needs normalising.
+bool needsNormalising(std::string_view text)
+{
+    if (text.find("//") != std::string_view::npos)
+        return true;
+    for (std::size_t start = 0; start <= text.size();) {
+        std::size_t end = text.find('/', start);
+        if (end == std::string_view::npos)
+            end = text.size();
+        const std::string_view part = text.substr(start, end - start);
+        if (part == "." || part == "..")
+            return true;
+        start = end + 1;
+    }
+    return false;
+}
+
+// Paths as plain strings: every file operation looks its path up, so the usual plain path is taken
+// as it is rather than normalised part by part.
 std::string key(const fs::path& path)
 {
-    std::string text = path.lexically_normal().generic_string();
+    std::string text = path.generic_string();
+    if (needsNormalising(text))
+        text = path.lexically_normal().generic_string();
     while (text.size() > 1 && text.back() == '/')
         text.pop_back();
     return text;
 }
 
-std::string parentKey(const std::string& path)
+std::string_view parentKey(std::string_view name)
 {
-    return key(fs::path(path).parent_path());
+    const std::size_t slash = name.rfind('/');
+    if (slash == std::string_view::npos)
+        return {};
+    return slash == 0 ? name.substr(0, 1) : name.substr(0, slash);
+}
+
+std::string_view nameOf(std::string_view key)
+{
+    return key.substr(key.rfind('/') + 1);
 }
 
 std::error_code missing()
@@ -82,11 +111,11 @@ std::vector<std::string> MemoryFileSystem::list(const fs::path& folder) const
     std::vector<std::string> names;
     for (const auto& [name, bytes] : m_files) {
         if (parentKey(name) == parent)
-            names.push_back(fs::path(name).filename().string());
+            names.emplace_back(nameOf(name));
     }
     for (const std::string& name : m_folders) {
         if (name != parent && parentKey(name) == parent)
-            names.push_back(fs::path(name).filename().string());
+            names.emplace_back(nameOf(name));
     }
     return names;
 }
@@ -110,7 +139,7 @@ std::error_code MemoryFileSystem::create(const fs::path& path, Handle& handle)
     const std::string name = key(path);
     if (m_files.contains(name) || m_folders.contains(name))
         return std::make_error_code(std::errc::file_exists);
-    if (!m_folders.contains(parentKey(name)))
+    if (!m_folders.contains(std::string(parentKey(name))))
         return missing();
     m_files[name];
     handle = m_nextHandle++;
@@ -146,7 +175,7 @@ std::error_code MemoryFileSystem::rename(const fs::path& from, const fs::path& t
     const std::string target = key(to);
     if (m_folders.contains(target))
         return std::make_error_code(std::errc::is_a_directory);
-    if (!m_folders.contains(parentKey(target)))
+    if (!m_folders.contains(std::string(parentKey(target))))
         return missing();
     std::string bytes = std::move(source->second);
     m_files.erase(source);
