@@ -115,15 +115,6 @@ TEST_F(StartUp, MissingSettingsFileOffersEveryTypeInTheDialogAndSaysWhatToDoNext
     EXPECT_FALSE(std::filesystem::exists(dir.path() / "quillet.ini")) << "nothing is written at start";
 }
 
-TEST_F(StartUp, SettingsFileThatIsNotOneIsRefusedWithAMessage)
-{
-    dir.write("quillet.ini", std::string(100000, 'x'));
-    form1.Form_Load();
-    EXPECT_EQ(state.nmenu, 0);
-    ASSERT_EQ(session.messages.pending().size(), 1u);
-    EXPECT_NE(session.messages.pending()[0].find("too large"), std::string::npos);
-}
-
 TEST_F(StartUp, AShortSettingsFileIsUsedAsFarAsItGoesAndToldOnce)
 {
     dir.makeSimulator("FS2000.EXE");
@@ -209,6 +200,15 @@ TEST_F(StartUp, WhatTheSettingsFileHoldsIsNeverDroppedWithoutACopyAndAWord)
     }
 }
 
+TEST_F(StartUp, SettingsFileThatIsNotOneIsRefusedWithAMessage)
+{
+    dir.write("quillet.ini", std::string(100000, 'x'));
+    form1.Form_Load();
+    EXPECT_EQ(state.nmenu, 0);
+    ASSERT_EQ(session.messages.pending().size(), 1u);
+    EXPECT_NE(session.messages.pending()[0].find("too large"), std::string::npos);
+}
+
 TEST_F(StartUp, ASettingsFileThatIsNotTextStartsEmptyAndIsKeptAsACopy)
 {
     const std::string utf16("\xFF\xFE"
@@ -243,49 +243,21 @@ TEST_F(StartUp, AHandQuotedFolderHoldingACommaIsKept)
     EXPECT_TRUE(told("quillet.ini").empty());
 }
 
-TEST_F(StartUp, AFolderNameThatIsAPathIsNotListedAndNamedOnce)
-{
-    dir.makeSimulator("FS2000.EXE");
-    dir.makeAircraft("b737_300");
-    dir.write("outside/aircraft.cfg", "[WEIGHT_AND_BALANCE]\r\n");
-    const std::string absolute = (dir.path() / "outside").string();
-    dir.writeIni(dir.sim(), {"B737-300,b737_300", "DHC-8-300,..\\..\\outside", "MD-90-30,../../outside",
-                             "B757-200," + absolute, "Beech 1900D,"});
-    form1.Form_Load();
-    form1.mnuconfigair_Click(); // reads the file again
-    EXPECT_EQ(form1.Combo1.items(), std::vector<std::string>{"B737-300"});
-    const std::string ini = (dir.path() / "quillet.ini").string();
-    const auto named = [&](const std::string& folder, const std::string& type) {
-        return "The aircraft folder \"" + folder + "\" of \"" + type + "\" in \"" + ini +
-               "\" is not a single folder name, so \"" + type +
-               "\" is not listed. Give it the name of its folder "
-               "inside \"" +
-               dir.sim() + "\\aircraft\" in the configuration dialog.";
-    };
-    EXPECT_EQ(told("is not a single folder name"),
-              (std::vector<std::string>{named("..\\..\\outside", "DHC-8-300"),
-                                        named("../../outside", "MD-90-30"), named(absolute, "B757-200")}));
-
-    // Nor can the dialog take such a name.
-    Form4& dialog = form1.form4();
-    dialog.Combo2.setListIndex(0);
-    dialog.invalid_dir.setText("..\\..\\outside");
-    EXPECT_FALSE(dialog.Command1_visible);
-    dialog.invalid_dir.setText("b737_300");
-    EXPECT_TRUE(dialog.Command1_visible);
-}
-
 // Entries whose folder is missing are simply not set up yet; one whose folder is there but holds no
-// usable aircraft.cfg is named, once a run.
-TEST_F(StartUp, AnEntryWhoseFolderHasNoPlainAircraftCfgIsNamedOnceWithWhy)
+// usable aircraft.cfg, or whose folder name is a path, is named, once a run.
+TEST_F(StartUp, AnEntryThatCannotBeListedIsNamedOnceWithWhy)
 {
     dir.makeSimulator();
     dir.makeAircraft("b737_300");
     dir.write("sim/aircraft/dash8/readme.txt", "");
     std::filesystem::create_directories(dir.path() / "sim/aircraft/md90/aircraft.cfg");
     dir.write("sim/aircraft/beech", "a file");
-    std::vector<std::string> entries{"B737-300,b737_300", "DHC-8-300,dash8", "MD-90-30,md90",
-                                     "Beech 1900D,beech", "B727-212ADV,not_yet"};
+    dir.write("outside/aircraft.cfg", "[WEIGHT_AND_BALANCE]\r\n");
+    const std::string absolute = (dir.path() / "outside").string();
+    std::vector<std::string> entries{
+        "B737-300,b737_300",      "DHC-8-300,dash8",      "MD-90-30,md90",
+        "Beech 1900D,beech",      "B727-212ADV,not_yet",  "CRJ-200ER,..\\..\\outside",
+        "DC-9-30F,../../outside", "DC-8-71F," + absolute, "DC-10-30F,"};
 #ifndef _WIN32
     std::filesystem::create_directories(dir.path() / "sim/aircraft/b757");
     ASSERT_EQ(mkfifo((dir.path() / "sim/aircraft/b757/aircraft.cfg").c_str(), 0600), 0);
@@ -311,6 +283,26 @@ TEST_F(StartUp, AnEntryWhoseFolderHasNoPlainAircraftCfgIsNamedOnceWithWhy)
         notListed("B757-200", "the aircraft.cfg in \"" + folder("b757") + "\" is not a plain file"));
 #endif
     EXPECT_EQ(told("is not in the aircraft list"), expected);
+
+    const std::string ini = (dir.path() / "quillet.ini").string();
+    const auto named = [&](const std::string& folder, const std::string& type) {
+        return "The aircraft folder \"" + folder + "\" of \"" + type + "\" in \"" + ini +
+               "\" is not a single folder name, so \"" + type +
+               "\" is not listed. Give it the name of its folder "
+               "inside \"" +
+               dir.sim() + "\\aircraft\" in the configuration dialog.";
+    };
+    EXPECT_EQ(told("is not a single folder name"),
+              (std::vector<std::string>{named("..\\..\\outside", "CRJ-200ER"),
+                                        named("../../outside", "DC-9-30F"), named(absolute, "DC-8-71F")}));
+
+    // Nor can the dialog take such a name.
+    Form4& dialog = form1.form4();
+    dialog.Combo2.setListIndex(0);
+    dialog.invalid_dir.setText("..\\..\\outside");
+    EXPECT_FALSE(dialog.Command1_visible);
+    dialog.invalid_dir.setText("b737_300");
+    EXPECT_TRUE(dialog.Command1_visible);
 }
 
 } // namespace
