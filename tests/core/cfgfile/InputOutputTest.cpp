@@ -225,11 +225,22 @@ TEST_F(CfgFileTest, AFailedReadTellsTheUserAndNothingIsWrittenThenOrAtASave)
         return kHead + line +
                "\r\n\"Co-pilot\",13.5,2,0,0\r\n\"Passenger 1\",5.25,-1.1,0,0\r\n\"Cargo\",-17,0,0,0\r\n";
     };
+    // An aircraft.cfg two folders above the simulator's aircraft folder.
+    dir.write("outside/aircraft.cfg", "[WEIGHT_AND_BALANCE]\r\n");
+    const auto notAFolderName = [](const std::string& folder) {
+        return "The aircraft folder \"" + folder +
+               "\" of \"Beech 1900D\" is not a single folder name inside the "
+               "simulator's aircraft folder. The load of \"Beech 1900D\" was not read, and nothing will be "
+               "saved "
+               "for it until it is read successfully.";
+    };
+    const std::string absolute = (dir.path() / "outside").string();
     struct Case {
         const char* what;
         std::optional<std::string> cfg; // none: no aircraft.cfg
         std::string stations;           // empty: no station file
         std::string said;               // part of the message
+        std::string folder = "";        // of a last entry of the type, which is the one used
     };
     const Case cases[] = {
         {"missing aircraft.cfg", std::nullopt, "", "aircraft.cfg\" does not exist"},
@@ -262,6 +273,10 @@ TEST_F(CfgFileTest, AFailedReadTellsTheUserAndNothingIsWrittenThenOrAtASave)
          "section"},
         {"a quote in a label", "x", pilot("\"Seat \"3A\"\",13.5,-2,0,0"),
          "line 3: the label of station 0 \"Seat \" is followed by more text after its closing double quote"},
+        {"a path with backslashes", "x", "", notAFolderName("..\\..\\..\\outside"), "..\\..\\..\\outside"},
+        {"a path with slashes", "x", "", notAFolderName("../../../outside"), "../../../outside"},
+        {"an absolute path", "x", "", notAFolderName(absolute), absolute},
+        {"the folder above", "x", "", notAFolderName(".."), ".."},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
@@ -271,6 +286,9 @@ TEST_F(CfgFileTest, AFailedReadTellsTheUserAndNothingIsWrittenThenOrAtASave)
             writeCfg(*c.cfg);
         if (!c.stations.empty())
             writeStations(c.stations);
+        session.state.nmenu = c.folder.empty() ? 2 : 3;
+        session.state.menutype[2] = kType;
+        session.state.menufolder[2] = c.folder;
         session.state.stationweight[1] = 170; // left by an earlier type
         session.state.cfgsource.valid = true;
         const auto filesBefore = allFiles();
@@ -319,10 +337,16 @@ TEST_F(CfgFileTest, AFailedSaveKeepsTheOldFilesAndTellsWhy)
     EXPECT_FALSE(writecfg(session));
     fs::remove(stations());
     fs::rename(dir.path() / "stations.saved", stations());
+    // A weight the reader would refuse: the next read would lock the type's load out.
+    for (const float typed : {-40.0f, 16951.0f}) {
+        session.state.stationweight[3] = typed;
+        EXPECT_FALSE(writecfg(session));
+    }
+    session.state.stationweight[3] = 0;
     EXPECT_EQ(allFiles(), filesBefore);
 
     const auto told = session.messages.take();
-    ASSERT_EQ(told.size(), 6u);
+    ASSERT_EQ(told.size(), 8u);
     EXPECT_NE(told[0].find("aircraft.cfg\" is read-only"), std::string::npos) << told[0];
     EXPECT_NE(told[1].find("the old file was kept"), std::string::npos) << told[1];
     EXPECT_NE(told[2].find("dash8"), std::string::npos) << told[2];
@@ -331,6 +355,10 @@ TEST_F(CfgFileTest, AFailedSaveKeepsTheOldFilesAndTellsWhy)
               "Nothing was saved: \"" + stations().string() + "\" is read-only, so it was not changed.");
     EXPECT_EQ(told[5],
               "Nothing was saved: \"" + stations().string() + "\" is a folder, so it cannot be written.");
+
+    for (const std::string& said : {told[6], told[7]})
+        EXPECT_NE(said.find("would not read back: line 6: the weight of station 3 is "), std::string::npos)
+            << said;
 
     // What no check can foresee: the station file cannot be renamed into place.
     disk.failAfter(FileStep::Rename, 1);
@@ -447,33 +475,6 @@ TEST_F(CfgFileTest, TheOneTimeBackupIsWholeOrAbsentAndOnlyAPlainFileCounts)
               refused("is a link to \"" + nowhere.string() + "\", which does not exist."));
     EXPECT_FALSE(fs::exists(dir.path() / "gone"));
     EXPECT_EQ(TempDir::readFile(cfg()), original);
-}
-
-TEST_F(CfgFileTest, AFolderNameThatIsAPathWritesNothingAnywhere)
-{
-    writeCfg("[WEIGHT_AND_BALANCE]\r\n");
-    // An aircraft.cfg two folders above the simulator's aircraft folder.
-    dir.write("outside/aircraft.cfg", "[WEIGHT_AND_BALANCE]\r\n");
-    const std::string paths[] = {"..\\..\\..\\outside", "../../../outside", (dir.path() / "outside").string(),
-                                 ".."};
-    for (const std::string& folder : paths) {
-        SCOPED_TRACE(folder);
-        // The last entry of a type is the one used.
-        session.state.nmenu = 3;
-        session.state.menutype[2] = kType;
-        session.state.menufolder[2] = folder;
-        const auto filesBefore = allFiles();
-        EXPECT_FALSE(readcfg(session));
-        EXPECT_EQ(session.messages.take(),
-                  std::vector<std::string>{
-                      "The aircraft folder \"" + folder +
-                      "\" of \"Beech 1900D\" is not a single folder name inside the "
-                      "simulator's aircraft folder. The load of \"Beech 1900D\" was not "
-                      "read, and nothing will be saved for it until it is read successfully."});
-        EXPECT_FALSE(writecfg(session));
-        EXPECT_EQ(session.messages.take().size(), 1u);
-        EXPECT_EQ(allFiles(), filesBefore);
-    }
 }
 
 // A type with 33 stations, as many as a 30-seat commuter: its block is 51 lines.
@@ -600,24 +601,6 @@ TEST_F(CfgFileTest, LabelsWithQuotesAndLoadsUpToTheLimitsReadBackAsTheyWereWritt
     ASSERT_TRUE(readcfg(session)) << session.messages.pending().front();
     EXPECT_EQ(session.state.stationname[500], "S500");
     EXPECT_EQ(session.state.loadweight, 501);
-}
-
-// A weight the reader would refuse is not saved either: the next read would lock the type's load out.
-TEST_F(CfgFileTest, ALoadTheReaderWouldRefuseIsNotSaved)
-{
-    writeCfg("[WEIGHT_AND_BALANCE]\r\n");
-    for (const float typed : {-40.0f, 16951.0f}) {
-        SCOPED_TRACE(typed);
-        ASSERT_TRUE(readcfg(session));
-        const auto filesBefore = allFiles();
-        session.state.stationweight[3] = typed;
-        EXPECT_FALSE(writecfg(session));
-        const auto told = session.messages.take();
-        ASSERT_EQ(told.size(), 1u);
-        EXPECT_NE(told[0].find("would not read back: line 6: the weight of station 3 is "), std::string::npos)
-            << told[0];
-        EXPECT_EQ(allFiles(), filesBefore);
-    }
 }
 
 } // namespace
