@@ -503,6 +503,10 @@ TEST_F(CfgFileTest, ASaveThatWouldGrowTheFilePastWhatCanBeReadBackWritesNothing)
         {"301 lines, a 2-line section", "[WEIGHT_AND_BALANCE]\r\nold\r\n[next]\r\n" + linesOf("k=v", 298),
          351},
         {"299 lines, no section", "[fltsim.0]\r\n" + linesOf("k=v", 298), 352},
+        {"260 lines, a 10-line section",
+         "[fltsim.0]\r\n" + linesOf("k=v", 99) + "[WEIGHT_AND_BALANCE]\r\n" + linesOf("old", 9) +
+             "[next]\r\n" + linesOf("k=v", 149),
+         302},
         {"259 lines, a 10-line section: 301 saved",
          "[fltsim.0]\r\n" + linesOf("k=v", 99) + "[WEIGHT_AND_BALANCE]\r\n" + linesOf("old", 9) +
              "[next]\r\n" + linesOf("k=v", 148),
