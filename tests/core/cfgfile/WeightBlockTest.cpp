@@ -1,5 +1,6 @@
 #include "cfgfile/WeightBlock.h"
 
+#include "Golden.h"
 #include "SmallType.h"
 
 #include <gtest/gtest.h>
@@ -23,29 +24,10 @@ LoadState smallType()
 
 TEST(WeightBlock, EveryLineOfARegionalType)
 {
-    EXPECT_EQ(weightAndBalanceBlock(smallType(), "Beech 1900D", Date{2001, 3, 7}),
-              (Lines{"// Weight and Balance edited by Quillet 2.0 on 7 Mar 2001",
-                     "// Beech 1900D configuration one class 1 passangers.",
-                     "// MaxTakeoff Weight = 16950lb",
-                     "// Max Landing Weight = 16500lb",
-                     "// Max Fuel Capacity = 3578lb ",
-                     "",
-                     "//         Empty Weight = 10615 lb",
-                     "// Total Payload Weight = 360 lb",
-                     "//  Allowable Fuel load = 3578 lb ",
-                     "//                     -------------------",
-                     "//         Total weight = 14553 lb ",
-                     "//                     -------------------",
-                     "",
-                     "Empty_weight = 10615 // Weight in pounds ",
-                     "empty_weight_cg_position=0.0, 0, 0",
-                     " ",
-                     "max_number_of_stations = 4",
-                     "station_load.0 = 170, 13.5, -2.0, 0.0 // Pilot",
-                     "station_load.1 = 0, 13.5, 2.0, 0.0 // Co-pilot",
-                     "station_load.2 = 190, 5.3, -1.1, 0.0 // Passenger 1",
-                     "station_load.3 = 0, -17.0, 0.0, 0.0 // Cargo",
-                     " "}));
+    std::string text;
+    for (const std::string& line : weightAndBalanceBlock(smallType(), "Beech 1900D", Date{2001, 3, 7}))
+        text += line + "\n";
+    expectGoldenFile("small-type.block", text);
 }
 
 TEST(WeightBlock, CfgStationsSetsTheNumberOfStationLines)

@@ -1,47 +1,41 @@
 #include "platform/Delimited.h"
 
 #include <gtest/gtest.h>
-
 #include <vector>
 
 namespace quillet {
 namespace {
 
-std::vector<std::string> fields(std::string_view text)
+using Fields = std::vector<std::string>;
+
+Fields fields(std::string_view text)
 {
     DelimitedReader reader(text);
-    std::vector<std::string> out;
+    Fields out;
     while (auto field = reader.next())
         out.push_back(field->text);
     return out;
 }
 
-using Fields = std::vector<std::string>;
-
-TEST(DelimitedReading, CommasAndLineEndsSeparateAndBlanksAreDropped)
+TEST(DelimitedReading, SplitsFieldsTheWayHandWrittenFilesNeed)
 {
-    EXPECT_EQ(fields("  C:\\fs2000  \r\n3\r\nB737-300 , b737_300\r\n"),
-              (Fields{"C:\\fs2000", "3", "B737-300", "b737_300"}));
-}
-
-TEST(DelimitedReading, QuotedFieldsMayHoldCommasAndLineEnds)
-{
-    EXPECT_EQ(fields("\"Lower Deck Cargo, Forward\",12.5\n\"two\nlines\",x"),
-              (Fields{"Lower Deck Cargo, Forward", "12.5", "two\nlines", "x"}));
-    EXPECT_EQ(fields("\"  kept  \""), (Fields{"  kept  "}));
-}
-
-TEST(DelimitedReading, AcceptsEveryLineEndAndAMissingFinalOne)
-{
-    EXPECT_EQ(fields("a\rb\nc\r\nd"), (Fields{"a", "b", "c", "d"}));
-}
-
-TEST(DelimitedReading, EmptyLinesBetweenFieldsAreSkippedButEmptyFieldsAreKept)
-{
-    EXPECT_EQ(fields("a\r\n\r\n\r\nb"), (Fields{"a", "b"}));
-    EXPECT_EQ(fields("a,,b"), (Fields{"a", "", "b"}));
-    EXPECT_EQ(fields("a,\r\nb"), (Fields{"a", "", "b"}));
-    EXPECT_TRUE(fields("  \r\n \r\n").empty());
+    const std::pair<std::string_view, Fields> cases[] = {
+        // Commas and line ends separate; blanks around a field are dropped.
+        {"  C:\\fs2000  \r\n3\r\nB737-300 , b737_300\r\n", {"C:\\fs2000", "3", "B737-300", "b737_300"}},
+        // Quoted fields may hold commas, line ends and blanks.
+        {"\"Lower Deck Cargo, Forward\",12.5\n\"two\nlines\",x",
+         {"Lower Deck Cargo, Forward", "12.5", "two\nlines", "x"}},
+        {"\"  kept  \"", {"  kept  "}},
+        // Every line end, and a missing final one.
+        {"a\rb\nc\r\nd", {"a", "b", "c", "d"}},
+        // Empty lines between fields are skipped, but empty fields are kept.
+        {"a\r\n\r\n\r\nb", {"a", "b"}},
+        {"a,,b", {"a", "", "b"}},
+        {"a,\r\nb", {"a", "", "b"}},
+        {"  \r\n \r\n", {}},
+    };
+    for (const auto& [text, expected] : cases)
+        EXPECT_EQ(fields(text), expected) << text;
 }
 
 TEST(DelimitedReading, TellsTheLineOfEachField)

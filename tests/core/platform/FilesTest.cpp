@@ -21,61 +21,40 @@ std::set<std::string> namesIn(const fs::path& folder)
     return names;
 }
 
-TEST(Files, ReadsBytesUnchanged)
+TEST(Files, ReadsBytesUnchangedAndRefusalsNameTheFile)
 {
     TempDir dir;
     const std::string bytes("a\r\nb\xE9\0c\n", 8);
-    const auto file = dir.write("f.cfg", bytes);
-    auto read = Files().read(file, 100);
+    auto read = Files().read(dir.write("f.cfg", bytes), 100);
     ASSERT_TRUE(read) << read.error().message;
     EXPECT_EQ(read.value(), bytes);
+
+    const auto readOnly = dir.write("aircraft.cfg", "protected");
+    fs::permissions(readOnly, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    struct Case {
+        fs::path file;
+        bool write; // a replace, else a read
+        std::string said;
+    };
+    const Case cases[] = {
+        {dir.write("big.cfg", std::string(101, 'x')), false, "big.cfg\" is too large"},
+        {dir.path() / "none.cfg", false, "none.cfg\" does not exist"},
+        {dir.path(), false, "is a folder"},
+        {dir.path() / "no" / "such" / "aircraft.cfg", true, "does not exist"},
+        {readOnly, true, "read-only"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.said);
+        const std::string said = c.write ? Files().replace(c.file, "changed").error().message
+                                         : Files().read(c.file, 100).error().message;
+        EXPECT_NE(said.find(c.file.filename().string()), std::string::npos) << said;
+        EXPECT_NE(said.find(c.said), std::string::npos) << said;
+    }
+    EXPECT_EQ(TempDir::readFile(readOnly), "protected");
 }
 
-TEST(Files, ReadRefusalsNameTheFile)
-{
-    TempDir dir;
-    const auto big = dir.write("big.cfg", std::string(101, 'x'));
-    Files files;
-    auto tooBig = files.read(big, 100);
-    ASSERT_FALSE(tooBig);
-    EXPECT_NE(tooBig.error().message.find("big.cfg"), std::string::npos);
-    EXPECT_NE(tooBig.error().message.find("too large"), std::string::npos);
-
-    auto missing = files.read(dir.path() / "none.cfg", 100);
-    ASSERT_FALSE(missing);
-    EXPECT_NE(missing.error().message.find("none.cfg\" does not exist"), std::string::npos);
-
-    auto folder = files.read(dir.path(), 100);
-    ASSERT_FALSE(folder);
-    EXPECT_NE(folder.error().message.find("is a folder"), std::string::npos);
-}
-
-TEST(Files, ReplaceWritesExactlyAndLeavesNoTemporary)
-{
-    TempDir dir;
-    const auto file = dir.write("aircraft.cfg", "old");
-    ASSERT_TRUE(Files().replace(file, "new\r\n"));
-    EXPECT_EQ(TempDir::readFile(file), "new\r\n");
-    ASSERT_TRUE(Files().replace(dir.path() / "fresh.cfg", ""));
-    EXPECT_EQ(namesIn(dir.path()), (std::set<std::string>{"aircraft.cfg", "fresh.cfg"}));
-}
-
-TEST(Files, AFailedWriteKeepsTheOldFileWhole)
-{
-    TempDir dir;
-    const auto file = dir.write("aircraft.cfg", "the old contents");
-    RecordingFileSystem disk{systemFiles()};
-    Files files{disk};
-    disk.failWritesAfter(4);
-    auto written = files.replace(file, "the new contents, longer");
-    ASSERT_FALSE(written);
-    EXPECT_EQ(written.error().message,
-              "\"" + file.string() +
-                  "\" could not be written completely (is the disk full?); the old file was kept.");
-    EXPECT_EQ(TempDir::readFile(file), "the old contents");
-    EXPECT_EQ(namesIn(dir.path()), std::set<std::string>{"aircraft.cfg"});
-}
-
+// A full disk, and the one-time backup that is never replaced, are checked through the saves and reads
+// of aircraft.cfg.
 TEST(Files, PreparedFilesChangeNothingUntilCommitted)
 {
     TempDir dir;
@@ -106,17 +85,6 @@ TEST(Files, PreparedFilesChangeNothingUntilCommitted)
     EXPECT_EQ(namesIn(dir.path()), (std::set<std::string>{"aircraft.cfg", "station.cfg"}));
 }
 
-TEST(Files, ReadOnlyFilesAreNotReplaced)
-{
-    TempDir dir;
-    const auto file = dir.write("aircraft.cfg", "protected");
-    fs::permissions(file, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
-    auto written = Files().replace(file, "changed");
-    ASSERT_FALSE(written);
-    EXPECT_NE(written.error().message.find("read-only"), std::string::npos);
-    EXPECT_EQ(TempDir::readFile(file), "protected");
-}
-
 TEST(Files, ReplaceKeepsThePermissionsOfTheOldFile)
 {
     TempDir dir;
@@ -133,40 +101,22 @@ TEST(Files, ReplaceKeepsThePermissionsOfTheOldFile)
 #endif
 }
 
-TEST(Files, MissingFolderIsReported)
-{
-    TempDir dir;
-    auto written = Files().replace(dir.path() / "no" / "such" / "aircraft.cfg", "x");
-    ASSERT_FALSE(written);
-    EXPECT_NE(written.error().message.find("does not exist"), std::string::npos);
-}
-
-TEST(Files, CopyIfAbsentNeverReplaces)
-{
-    TempDir dir;
-    const auto from = dir.write("aircraft.cfg", "first");
-    const auto to = dir.path() / "aircraft.cfg.bak";
-    ASSERT_TRUE(Files().copyIfAbsent(from, to));
-    EXPECT_EQ(TempDir::readFile(to), "first");
-    dir.write("aircraft.cfg", "second");
-    ASSERT_TRUE(Files().copyIfAbsent(from, to));
-    EXPECT_EQ(TempDir::readFile(to), "first");
-}
-
 // A user called Zoë: the folder's name reaches the system intact, for the temporary file too.
-TEST(Files, SavesIntoAFolderWithANonAsciiName)
+TEST(Files, ReplaceWritesExactlyAndLeavesNoTemporaryInAFolderWithANonAsciiName)
 {
     TempDir dir;
     const fs::path folder = dir.path() / u8"Zo\u00EB \u03A9"; // the omega is in no Western code page
     fs::create_directories(folder);
     const fs::path file = folder / "aircraft.cfg";
+    std::ofstream(file) << "old";
     Files files;
-    ASSERT_TRUE(files.replace(file, "first"));
-    ASSERT_TRUE(files.replace(file, "second"));
+    ASSERT_TRUE(files.replace(file, "new\r\n"));
+    ASSERT_TRUE(files.replace(folder / "fresh.cfg", ""));
     auto read = files.read(file, 100);
     ASSERT_TRUE(read) << read.error().message;
-    EXPECT_EQ(read.value(), "second");
-    EXPECT_EQ(namesIn(folder), std::set<std::string>{"aircraft.cfg"});
+    EXPECT_EQ(read.value(), "new\r\n");
+    EXPECT_EQ(TempDir::readFile(folder / "fresh.cfg"), "");
+    EXPECT_EQ(namesIn(folder), (std::set<std::string>{"aircraft.cfg", "fresh.cfg"}));
 }
 
 TEST(Files, AFileAnotherProgramHoldsOpen)
@@ -178,7 +128,8 @@ TEST(Files, AFileAnotherProgramHoldsOpen)
 #ifdef _WIN32
     // Windows replaces no file that another program has open: the save is refused whole.
     ASSERT_FALSE(saved);
-    EXPECT_NE(saved.error().message.find("the old file was kept"), std::string::npos) << saved.error().message;
+    EXPECT_NE(saved.error().message.find("the old file was kept"), std::string::npos)
+        << saved.error().message;
     reader.close();
     EXPECT_EQ(TempDir::readFile(file), "old");
     EXPECT_EQ(namesIn(dir.path()), std::set<std::string>{"aircraft.cfg"}) << "no temporary file is left";
@@ -221,15 +172,18 @@ TEST(Files, ASaveRemovesOnlyTheTemporariesItsFileLeftBehind)
     dir.write(".aircraft.cfg.00000000deadbeef.quillet-new", "left by a killed save");
     std::error_code noLink; // Windows may make none; the other leftovers are checked all the same
     fs::create_symlink(outside, dir.path() / ".aircraft.cfg.0123456789abcdef.quillet-new", noLink);
+    fs::create_symlink(outside, dir.path() / "aircraft.cfg.quillet-new", noLink); // an older program's name
     fs::create_directory(dir.path() / ".aircraft.cfg.fedcba9876543210.quillet-new");
 
     ASSERT_TRUE(Files().replace(file, "new"));
     std::set<std::string> expected = foreign;
     expected.insert({"aircraft.cfg", "outside", ".aircraft.cfg.fedcba9876543210.quillet-new"});
     if (!noLink)
-        expected.insert(".aircraft.cfg.0123456789abcdef.quillet-new");
+        expected.insert({".aircraft.cfg.0123456789abcdef.quillet-new", "aircraft.cfg.quillet-new"});
     EXPECT_EQ(namesIn(dir.path()), expected);
     EXPECT_EQ(TempDir::readFile(outside), "not ours");
+    EXPECT_EQ(TempDir::readFile(file), "new");
+    EXPECT_FALSE(fs::is_symlink(file));
 }
 
 } // namespace

@@ -1,11 +1,11 @@
-#include "platform/Date.h"
 #include "platform/Format.h"
-#include "platform/Random.h"
 
-#include <gtest/gtest.h>
+#include "platform/Date.h"
+#include "platform/Random.h"
 
 #include <clocale>
 #include <cstdlib>
+#include <gtest/gtest.h>
 #include <locale>
 #include <string>
 #include <string_view>
@@ -44,25 +44,19 @@ TEST(NumberFormats, OneDecimal)
     EXPECT_EQ(format1(99.96), "100.0");
 }
 
-// Switches the C and C++ locales to one with a decimal comma for as long as it lives.
-class DecimalCommaLocale {
-public:
+// Switches the C and C++ locales to one with a decimal comma, if one is installed, for as long as it
+// lives. Windows names its locales its own way, and its C++ library knows only the "C" one.
+struct DecimalCommaLocale {
     DecimalCommaLocale()
     {
-        const char* before = std::setlocale(LC_ALL, nullptr);
-        m_saved = before ? before : "C";
 #ifdef _WIN32
-        // Windows names its locales its own way, and its C++ library knows only the "C" one.
         for (const char* name : {"German_Germany.1252", "de-DE", "French_France.1252"}) {
-            if (std::setlocale(LC_ALL, name)) {
-                m_name = name;
+            if ((active = std::setlocale(LC_ALL, name) != nullptr))
                 return;
-            }
         }
 #else
         for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "fr_FR.utf8"}) {
-            if (std::setlocale(LC_ALL, name)) {
-                m_name = name;
+            if ((active = std::setlocale(LC_ALL, name) != nullptr)) {
                 std::locale::global(std::locale(name));
                 return;
             }
@@ -71,23 +65,18 @@ public:
     }
     ~DecimalCommaLocale()
     {
-        std::setlocale(LC_ALL, m_saved.c_str());
+        std::setlocale(LC_ALL, saved.c_str());
         std::locale::global(std::locale::classic());
     }
-    DecimalCommaLocale(const DecimalCommaLocale&) = delete;
-    DecimalCommaLocale& operator=(const DecimalCommaLocale&) = delete;
 
-    bool active() const { return !m_name.empty(); }
-
-private:
-    std::string m_saved;
-    std::string m_name;
+    const std::string saved = std::setlocale(LC_ALL, nullptr) ? std::setlocale(LC_ALL, nullptr) : "C";
+    bool active = false;
 };
 
 TEST(NumberFormats, IgnoreTheLocale)
 {
     DecimalCommaLocale locale;
-    if (!locale.active()) {
+    if (!locale.active) {
         // The test command generates one; in CI its absence is a broken set-up, not a reason to skip.
         const char* ci = std::getenv("CI");
         if (ci && std::string_view(ci) == "true")

@@ -2,7 +2,7 @@
 // aboard, compared byte for byte with a file under tests/data that was checked by hand against the
 // type's published table, through the main window as a user meets it. Beside it the whole table the
 // form sets up (full precision, maxima, seat-map points and container boxes, which the station file
-// does not keep). A new type adds one line to kFirstRuns and its two files.
+// does not keep). A new type adds its two files.
 
 #include "Golden.h"
 #include "ShellFixture.h"
@@ -20,21 +20,6 @@
 
 namespace quillet {
 namespace {
-
-struct FirstRun {
-    const char* type;   // as the aircraft list shows it
-    const char* golden; // under tests/data
-};
-
-const FirstRun kFirstRuns[] = {
-    {"Beech 1900D", "Beech 1900D.cfg"}, {"Empraer EMB_120", "Empraer EMB_120.cfg"},
-    {"DHC-8-300", "DHC-8-300.cfg"},     {"CRJ-200ER", "CRJ-200ER.cfg"},
-    {"B737-300", "B737-300.cfg"},       {"B737-200ADV", "B737-200ADV.cfg"},
-    {"B757-200", "B757-200.cfg"},       {"B757-200F", "B757-200F.cfg"},
-    {"B727-212ADV", "B727-212ADV.cfg"}, {"B767-300ER", "B767-300ER.cfg"},
-    {"MD-90-30", "MD-90-30.cfg"},       {"DC-9-30F", "DC-9-30F.cfg"},
-    {"DC-8-71F", "DC-8-71F.cfg"},       {"DC-10-30F", "DC-10-30F.cfg"},
-};
 
 void registerLoadForms(FormRegistry& forms)
 {
@@ -76,11 +61,11 @@ std::string tableText(const LoadState& s)
     return text;
 }
 
-class FirstRunStationFile : public ShellFixture, public ::testing::WithParamInterface<FirstRun> {};
+class FirstRunStationFile : public ShellFixture, public ::testing::WithParamInterface<AircraftType> {};
 
 TEST_P(FirstRunStationFile, IsTheBuiltInTableWithNobodyAboard)
 {
-    const std::string type = GetParam().type;
+    const std::string type(GetParam().type);
     dir.makeSimulator();
     dir.makeAircraft("plane");
     dir.writeIni(dir.sim(), {type + ",plane"});
@@ -88,14 +73,14 @@ TEST_P(FirstRunStationFile, IsTheBuiltInTableWithNobodyAboard)
 
     form1.Form_Load(); // lists the type and reads it: there is no station file yet
     ASSERT_EQ(form1.Combo1.text(), type);
-    expectGoldenFile(GetParam().golden, dir.read(type + ".cfg"));
+    expectGoldenFile(type + ".cfg", dir.read(type + ".cfg"));
     EXPECT_TRUE(told("station file").empty());
 }
 
 // The form's own set-up with no station file yet, before anything is read back from one.
 TEST_P(FirstRunStationFile, SetsUpTheBuiltInTable)
 {
-    const std::string type = GetParam().type;
+    const std::string type(GetParam().type);
     dir.makeAircraft("plane");
     state.simfolder = dir.sim();
     state.menutype[0] = type;
@@ -108,12 +93,12 @@ TEST_P(FirstRunStationFile, SetsUpTheBuiltInTable)
     expectGoldenFile(type + ".table", tableText(state));
 }
 
-std::string testName(const ::testing::TestParamInfo<FirstRun>& info)
+std::string testName(const ::testing::TestParamInfo<AircraftType>& info)
 {
     return testNameOf(info.param.type);
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryType, FirstRunStationFile, ::testing::ValuesIn(kFirstRuns), testName);
+INSTANTIATE_TEST_SUITE_P(EveryType, FirstRunStationFile, ::testing::ValuesIn(kAircraftTypes), testName);
 
 } // namespace
 } // namespace quillet

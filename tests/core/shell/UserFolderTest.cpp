@@ -1,5 +1,6 @@
 #include "shell/UserFolder.h"
 
+#include "Golden.h"
 #include "ShellFixture.h"
 #include "platform/Paths.h"
 #include "shell/Settings.h"
@@ -8,23 +9,6 @@
 
 namespace quillet {
 namespace {
-
-const std::string kStarter = "C:\\program files\\microsoft games\\fs2000\r\n"
-                             "14\r\n"
-                             "Beech 1900D,\r\n"
-                             "Empraer EMB_120,\r\n"
-                             "DHC-8-300,\r\n"
-                             "CRJ-200ER,\r\n"
-                             "DC-10-30F,\r\n"
-                             "B727-212ADV,\r\n"
-                             "B737-200ADV,\r\n"
-                             "B737-300,\r\n"
-                             "B757-200,\r\n"
-                             "B757-200F,\r\n"
-                             "B767-300ER,\r\n"
-                             "DC-8-71F,\r\n"
-                             "DC-9-30F,\r\n"
-                             "MD-90-30,\r\n";
 
 // An installed copy's pictures, and a data home where the user's folder is to be made.
 class UserFolder : public ::testing::Test {
@@ -52,7 +36,7 @@ TEST_F(UserFolder, FirstStartMakesTheFolderWithThePicturesAndStarterSettings)
     EXPECT_EQ(read("beech.gif"), "GIF89a beech");
     EXPECT_EQ(read("B737-300.gif"), "GIF89a 737");
     EXPECT_FALSE(std::filesystem::exists(folder() / "README")) << "only pictures are copied";
-    EXPECT_EQ(read("quillet.ini"), kStarter);
+    expectGoldenFile("starter.ini", read("quillet.ini"));
     EXPECT_FALSE(std::filesystem::exists(temporaryFor(folder() / "beech.gif")));
 }
 
@@ -92,7 +76,7 @@ TEST_F(UserFolder, MissingInstalledPicturesAreNamedAndTheSettingsAreStillWritten
     ASSERT_FALSE(prepared);
     EXPECT_NE(prepared.error().message.find(displayPath(pictures())), std::string::npos)
         << prepared.error().message;
-    EXPECT_EQ(read("quillet.ini"), kStarter);
+    expectGoldenFile("starter.ini", read("quillet.ini"));
 }
 
 // A new user's first start: the dialog opens, offering every type to be given its folder.
