@@ -30,10 +30,12 @@ inline void expectTexts(const RecordingCanvas& canvas, std::initializer_list<Dra
     const DrawOp* drawn = texts.data();
     for (const DrawnText& text : expected) {
         EXPECT_EQ(drawn->text, text.text);
-        if (!std::isnan(text.x))
+        if (!std::isnan(text.x)) {
             EXPECT_DOUBLE_EQ(drawn->x1, text.x) << text.text;
-        if (!std::isnan(text.y))
+        }
+        if (!std::isnan(text.y)) {
             EXPECT_DOUBLE_EQ(drawn->y1, text.y) << text.text;
+        }
         ++drawn;
     }
 }
