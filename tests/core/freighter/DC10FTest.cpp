@@ -1,4 +1,3 @@
-#include "Drawing.h"
 #include "FreighterRig.h"
 #include "Golden.h"
 
@@ -284,54 +283,6 @@ TEST(DC10FLimits, TheNoteNamesTheHighestNumberedLoadedContainerWithABrokenLimit)
         EXPECT_EQ(containerBox(rig, kContainer1L).fillColor, colour);
         EXPECT_EQ(state.stationmsg[kContainer1L], "Container Overload");
     }
-}
-
-TEST(DC10FDrawing, TheDecksAreDrawnAtTheirFixedPlaces)
-{
-    FreighterRig rig;
-    DC10F& form = rig.open();
-    LoadState& state = rig.session.state;
-    state.stationweight[kContainer1L] = 100;
-    state.stationweight[kPilot] = 180;
-    rig.picture().forget();
-    form.redraw();
-    RecordingCanvas& canvas = rig.picture();
-
-    // Container 1L: corner (2116.8, 260), 541.7 by 416 twips.
-    const DrawOp box = containerBox(rig, kContainer1L);
-    EXPECT_NEAR(box.x1, 2116.8, 0.05);
-    EXPECT_NEAR(box.y1, 260, 1e-9);
-    EXPECT_NEAR(box.x2 - box.x1, 541.7, 0.05);
-    EXPECT_NEAR(box.y2 - box.y1, 416, 1e-9);
-    EXPECT_EQ(box.colour, kBlack);
-    EXPECT_EQ(canvas.ops(DrawOp::Kind::Box).size(), 38u);
-
-    // The nose at 1062.1 twips, the tail at 8521.5, the cabin walls at 199.2 and 1152.8, and the
-    // bulkhead behind the flight deck at x = 65 ft from y 6.8 to -6.8.
-    const auto lines = canvas.ops(DrawOp::Kind::Line);
-    for (const auto& [x, y] :
-         {std::pair(1062.1, 676.0), std::pair(8521.5, 676.0), std::pair(6938.62, 199.16),
-          std::pair(6938.62, 1152.84), std::pair(1716.0, 322.4), std::pair(1716.0, 1029.6)})
-        EXPECT_TRUE(lineEndsNear(lines, x, y, 0.05)) << x << ", " << y;
-
-    // Five rings, and a green disc on the loaded Pilot's seat, which sits 0.2 ft beside its ring.
-    const auto circles = canvas.ops(DrawOp::Kind::Circle);
-    ASSERT_EQ(circles.size(), 6u);
-    EXPECT_EQ(std::tuple(circles[0].x1, circles[0].y1, circles[0].radius, circles[0].fillStyle),
-              std::tuple(1456.0, 790.4, 41.6, FillStyle::Transparent));
-    const DrawOp& disc = circles.back();
-    EXPECT_EQ(std::tuple(disc.x1, disc.y1, disc.radius, disc.fillStyle, disc.fillColor, disc.colour),
-              std::tuple(1456.0, 780.0, 41.6, FillStyle::Solid, kGreen, kBlack));
-
-    const auto printed = canvas.ops(DrawOp::Kind::Text);
-    const auto heading = [](const DrawOp& op) {
-        return std::tuple(op.text, op.x1, op.y1, op.bold, op.fontSize, op.foreColor);
-    };
-    ASSERT_EQ(printed.size(), 4u);
-    EXPECT_EQ(heading(printed[0]), std::tuple("Main Deck", 450.0, 100.0, true, 10.0, kBlack));
-    EXPECT_EQ(heading(printed[1]), std::tuple("Lower Deck", 450.0, 1450.0, true, 10.0, kBlack));
-    EXPECT_EQ(heading(printed[2]), std::tuple("Forward", 4550.0, 1450.0, false, 10.0, kBlack));
-    EXPECT_EQ(heading(printed[3]), std::tuple("Aft", 7950.0, 1450.0, false, 10.0, kBlack));
 }
 
 TEST(DC10FPresets, LightLoadEmptiesTheCrewAndGivesEachContainerItsShareBeforeTheExchange)
