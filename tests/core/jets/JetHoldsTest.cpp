@@ -42,33 +42,26 @@ std::vector<int> range(int first, int last)
     return values;
 }
 
-TEST_F(B767Form, AForwardZoneAbove45000PoundsMarksEveryForwardContainer)
+TEST_F(B767Form, AZoneAboveItsLimitMarksEveryStationOfTheZone)
 {
-    // Sixteen containers of 2700 lb hold 43200 lb at most, so 45000 lb needs one container over its
-    // own limit: that one alone is marked until the zone passes 45000.
+    const auto checkWith = [&](int station, float weight) {
+        rig.session.state.stationweight[station] = weight;
+        form->cargocheck();
+        return marked(" Zone Overload");
+    };
+    // Sixteen containers of 2700 lb hold 43200 lb at most, so 45000 lb forward needs one container
+    // over its own limit: that one alone is marked until the zone passes 45000.
     load(kFirstForward, kLastForward - 1, 2700);
     load(kFirstAft, kBulk, 1000);
-    rig.session.state.stationweight[kLastForward] = 4500;
-    form->cargocheck();
-    EXPECT_EQ(marked(" Zone Overload"), std::vector<int>{kLastForward});
-
-    rig.session.state.stationweight[kLastForward] = 4501;
-    form->cargocheck();
-    EXPECT_EQ(marked(" Zone Overload"), range(kFirstForward, kLastForward));
+    EXPECT_EQ(checkWith(kLastForward, 4500), std::vector<int>{kLastForward});
+    EXPECT_EQ(checkWith(kLastForward, 4501), range(kFirstForward, kLastForward));
     EXPECT_TRUE(marked(" Container Overload").empty());
-}
 
-TEST_F(B767Form, AnAftZoneAbove37800PoundsMarksTheAftContainersAndTheBulkHold)
-{
+    // The aft zone's 37800 lb count the bulk hold, which is marked with the aft containers.
     load(kFirstForward, kLastForward, 2000);
     load(kFirstAft, kBulk - 1, 2500);
-    rig.session.state.stationweight[kBulk] = 2800;
-    form->cargocheck();
-    EXPECT_TRUE(marked(" Zone Overload").empty());
-
-    rig.session.state.stationweight[kBulk] = 2801;
-    form->cargocheck();
-    EXPECT_EQ(marked(" Zone Overload"), range(kFirstAft, kBulk));
+    EXPECT_TRUE(checkWith(kBulk, 2800).empty());
+    EXPECT_EQ(checkWith(kBulk, 2801), range(kFirstAft, kBulk));
 }
 
 TEST_F(B767Form, TheClickThatTipsTheZoneHatchesAllForwardContainersRed)
