@@ -4,7 +4,6 @@
 #include "jets/JetForms.h"
 #include "jets/data737.h"
 
-#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <tuple>
