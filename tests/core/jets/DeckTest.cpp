@@ -18,36 +18,6 @@ TEST(DeckMapping, PutsTheNoseLeftAndTheLeftSideDownWithHalvesToEven)
     EXPECT_EQ(freighter.stationX(70), 1398); // 1397.5
 }
 
-TEST(DeckPen, BoxesHangFromTheirTopLeftCornerAndCentredBoxesFromTheirMiddle)
-{
-    RecordingCanvas canvas(9500, 2100);
-    DeckPen pen(canvas, {68, 8, 70});
-    pen.box({25.4, -3.3}, 1.8, 1.8);
-    pen.centredBox({10, 2}, 10, 4);
-    const auto boxes = canvas.ops(DrawOp::Kind::Box);
-    ASSERT_EQ(boxes.size(), 2u);
-    EXPECT_NEAR(boxes[0].x1, 2982, 1e-9);
-    EXPECT_NEAR(boxes[0].y1, 791, 1e-9);
-    EXPECT_NEAR(boxes[0].x2, 3108, 1e-9);
-    EXPECT_NEAR(boxes[0].y2, 917, 1e-9);
-    EXPECT_NEAR(boxes[1].x1, 3710, 1e-9);
-    EXPECT_NEAR(boxes[1].y1, 280, 1e-9);
-    EXPECT_NEAR(boxes[1].x2, 4410, 1e-9);
-    EXPECT_NEAR(boxes[1].y2, 560, 1e-9);
-}
-
-TEST(DeckPen, BothSidesDrawsTheMirrorImageToo)
-{
-    RecordingCanvas canvas(9500, 2100);
-    DeckPen pen(canvas, {0, 10, 10});
-    pen.bothSides({{0, 1}, {-1, 2}});
-    const auto lines = canvas.ops(DrawOp::Kind::Line);
-    ASSERT_EQ(lines.size(), 2u);
-    EXPECT_DOUBLE_EQ(lines[0].y1, 90);
-    EXPECT_DOUBLE_EQ(lines[1].y1, 110);
-    EXPECT_DOUBLE_EQ(lines[1].y2, 120);
-}
-
 TEST(StationLabel, OpensRightOfItsStationUnlessItWouldPassTheLimit)
 {
     RecordingCanvas canvas(9500, 2100);

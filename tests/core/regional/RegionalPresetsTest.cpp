@@ -1,8 +1,7 @@
 #include "RegionalRig.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
@@ -15,70 +14,54 @@ double seatDraw(int seat, int count, int first)
     return (seat - first + 0.5) / count;
 }
 
-std::vector<int> occupiedPassengerSeats(const RegionalRig& rig, const RegionalType& type)
+// The passenger seats that are loaded, or with `loaded` false those that are empty.
+std::vector<int> passengerSeats(const RegionalRig& rig, const RegionalType& type, bool loaded = true)
 {
     std::vector<int> seats;
     for (int i = type.roles.firstPassenger; i <= type.roles.lastPassenger; ++i) {
-        if (rig.session.state.stationweight[i] > 0)
+        if ((rig.session.state.stationweight[i] > 0) == loaded)
             seats.push_back(i);
     }
     return seats;
 }
 
-std::vector<int> emptyPassengerSeats(const RegionalRig& rig, const RegionalType& type)
+void push(ScriptedRandom& random, std::initializer_list<double> draws)
 {
-    std::vector<int> seats;
-    for (int i = type.roles.firstPassenger; i <= type.roles.lastPassenger; ++i) {
-        if (rig.session.state.stationweight[i] == 0)
-            seats.push_back(i);
-    }
-    return seats;
+    for (double draw : draws)
+        random.push(draw);
 }
 
-TEST(RegionalPresets, LightPlacesPassengersOnDrawnFreeSeats)
+TEST(RegionalPresets, LightAndMediumPlacePassengersOnDrawnFreeSeats)
 {
     RegionalRig rig;
-    RegionalForm& form = rig.open(beechType());
+    RegionalForm& beech = rig.open(beechType());
     // n = 1 + Int(6 × 0.5) = 4; hold = 15 × 4 + Int(4 × 20 × 0.5) = 100; then a weight and seats
     // per passenger, a taken seat drawn again.
-    for (double draw : {0.5, 0.5, 0.0, seatDraw(3, 18, 3), 0.5, seatDraw(3, 18, 3), seatDraw(20, 18, 3), 0.5,
-                        seatDraw(10, 18, 3), 0.5, seatDraw(4, 18, 3)})
-        rig.random.push(draw);
-    form.mnulight_Click();
-
-    EXPECT_EQ(rig.random.left(), 0u);
-    EXPECT_EQ(rig.random.overdrawn(), 0);
-    EXPECT_EQ(occupiedPassengerSeats(rig, beechType()), (std::vector<int>{3, 4, 10, 20}));
+    push(rig.random, {0.5, 0.5, 0.0, seatDraw(3, 18, 3), 0.5, seatDraw(3, 18, 3), seatDraw(20, 18, 3), 0.5,
+                      seatDraw(10, 18, 3), 0.5, seatDraw(4, 18, 3)});
+    beech.mnulight_Click();
+    EXPECT_EQ(std::tuple(rig.random.left(), rig.random.overdrawn()), std::tuple(0u, 0));
+    EXPECT_EQ(passengerSeats(rig, beechType()), (std::vector<int>{3, 4, 10, 20}));
     const LoadState& state = rig.session.state;
-    EXPECT_EQ(state.stationweight[3], 54);
-    EXPECT_EQ(state.stationweight[20], 148);
-    EXPECT_EQ(state.stationweight[22], 100);
+    EXPECT_EQ(std::tuple(state.stationweight[3], state.stationweight[20], state.stationweight[22]),
+              std::tuple(54.0f, 148.0f, 100.0f));
     EXPECT_EQ(state.stationweight[0], 100) << "avionics";
-    EXPECT_EQ(form.location[20].tooltip, "Passenger 9B 148 lb.");
-    EXPECT_TRUE(form.Shape1[20].visible);
-    EXPECT_EQ(form.location[22].tooltip, "Cargo 100 lb.");
-    EXPECT_EQ(form.labels.lblpass.text, "Passengers  4 / 19");
+    EXPECT_EQ(beech.location[20].tooltip, "Passenger 9B 148 lb.");
+    EXPECT_TRUE(beech.Shape1[20].visible);
+    EXPECT_EQ(beech.location[22].tooltip, "Cargo 100 lb.");
+    EXPECT_EQ(beech.labels.lblpass.text, "Passengers  4 / 19");
     EXPECT_EQ(state.loadweight, rig.sumOfWeights());
-}
 
-TEST(RegionalPresets, MediumUsesItsOwnSeatRangeAndBaggage)
-{
-    RegionalRig rig;
-    RegionalForm& form = rig.open(emb120Type());
-    // n = 11 + Int(10 × 0) = 11; hold = 8 × 11 + Int(11 × 16 × 0.5) = 176.
-    for (double draw : {0.0, 0.5, 0.5, 0.0, 0.5, 0.9999})
-        rig.random.push(draw);
-    for (int seat = 3; seat <= 11; ++seat) {
-        rig.random.push(0.5);
-        rig.random.push(seatDraw(seat, 30, 2));
-    }
-    form.mnumed_Click();
-
+    // The Embraer's Medium: n = 11 + Int(10 × 0) = 11; hold = 8 × 11 + Int(11 × 16 × 0.5) = 176.
+    RegionalForm& emb120 = rig.open(emb120Type());
+    push(rig.random, {0.0, 0.5, 0.5, 0.0, 0.5, 0.9999});
+    for (int seat = 3; seat <= 11; ++seat)
+        push(rig.random, {0.5, seatDraw(seat, 30, 2)});
+    emb120.mnumed_Click();
     EXPECT_EQ(rig.random.overdrawn(), 0);
-    EXPECT_EQ(occupiedPassengerSeats(rig, emb120Type()),
-              (std::vector<int>{2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 31}));
-    EXPECT_EQ(rig.session.state.stationweight[32], 176);
-    EXPECT_EQ(form.labels.lblpass.text, "Passengers  11 / 30");
+    EXPECT_EQ(passengerSeats(rig, emb120Type()), (std::vector<int>{2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 31}));
+    EXPECT_EQ(state.stationweight[32], 176);
+    EXPECT_EQ(emb120.labels.lblpass.text, "Passengers  11 / 30");
 }
 
 TEST(RegionalPresets, HeavyEmptiesReservedThenDrawnSeats)
@@ -112,24 +95,20 @@ TEST(RegionalPresets, HeavyEmptiesReservedThenDrawnSeats)
         SCOPED_TRACE(std::string(c.type.form) + " n = " + std::to_string(c.passengers));
         RegionalRig rig;
         RegionalForm& form = rig.open(c.type);
-        const RegionalPresets& presets = c.type.presets;
-        const int seatCount = c.type.roles.lastPassenger - c.type.roles.firstPassenger + 1;
         rig.random.push(c.countDraw);
-        for (int i = 0; i < seatCount; ++i)
+        for (int i = c.type.roles.firstPassenger; i <= c.type.roles.lastPassenger; ++i)
             rig.random.push(0.5);
         for (double draw : c.emptyingDraws)
             rig.random.push(draw);
         rig.random.push(0.75); // the hold
         form.mnuheav_Click();
 
-        EXPECT_EQ(rig.random.left(), 0u);
-        EXPECT_EQ(rig.random.overdrawn(), 0);
-        const std::vector<int> empty = emptyPassengerSeats(rig, c.type);
-        EXPECT_EQ(empty, c.emptySeats);
+        EXPECT_EQ(std::tuple(rig.random.left(), rig.random.overdrawn()), std::tuple(0u, 0));
+        EXPECT_EQ(passengerSeats(rig, c.type, false), c.emptySeats);
         EXPECT_EQ(rig.session.state.npax, c.passengers);
-        const int baggage = presets.heavy.baggage.perPassenger * c.passengers;
-        EXPECT_GE(rig.session.state.stationweight[c.type.roles.hold], baggage);
-        for (int seat : empty) {
+        EXPECT_GE(rig.session.state.stationweight[c.type.roles.hold],
+                  c.type.presets.heavy.baggage.perPassenger * c.passengers);
+        for (int seat : c.emptySeats) {
             EXPECT_EQ(form.location[seat].tooltip, "Empty");
             EXPECT_FALSE(form.Shape1[seat].visible);
         }
@@ -170,6 +149,14 @@ struct PublishedPreset {
     int firstSeat, lastSeat;
     int perPassenger, spread;
     std::vector<int> reserved; // heavy: emptied first at the smallest count
+
+    bool heavy() const { return click == &RegionalForm::mnuheav_Click; }
+    std::string name() const
+    {
+        return std::string(type.form) + (heavy()                                ? " heavy"
+                                         : click == &RegionalForm::mnumed_Click ? " medium"
+                                                                                : " light");
+    }
 };
 
 const std::vector<PublishedPreset>& publishedPresets()
@@ -188,84 +175,56 @@ const std::vector<PublishedPreset>& publishedPresets()
     return all;
 }
 
-std::string nameOf(const PublishedPreset& p)
-{
-    const char* which = p.click == &RegionalForm::mnulight_Click ? " light"
-                        : p.click == &RegionalForm::mnumed_Click ? " medium"
-                                                                 : " heavy";
-    return std::string(p.type.form) + which;
-}
-
-bool isHeavy(const PublishedPreset& p)
-{
-    return p.click == &RegionalForm::mnuheav_Click;
-}
-
-constexpr double kJustUnderOne = 0.9999999;
-
 TEST(RegionalPresets, DrawsOfZeroAndJustUnderOneGiveTheEndsOfEveryRange)
 {
     for (const PublishedPreset& p : publishedPresets()) {
-        SCOPED_TRACE(nameOf(p));
-        const int seatCount = p.lastSeat - p.firstSeat + 1;
-        for (const double extreme : {0.0, kJustUnderOne}) {
-            SCOPED_TRACE(extreme);
+        for (const double extreme : {0.0, 0.9999999}) {
+            SCOPED_TRACE(p.name() + " " + std::to_string(extreme));
             RegionalRig rig;
             RegionalForm& form = rig.open(p.type);
-            const int n = extreme == 0.0 ? p.passengersAtZero : p.passengersAtOne;
-            const int endSeat = extreme == 0.0 ? p.firstSeat : p.lastSeat;
-            // Seats to place on (or to empty) after the one the extreme draw gives, all inside the range.
-            std::vector<double> seatDraws{extreme};
-            for (int k = 1; k < seatCount; ++k) {
-                const int seat = extreme == 0.0 ? p.firstSeat + k : p.lastSeat - k;
-                seatDraws.push_back((seat - p.firstSeat + 0.5) / seatCount);
-            }
+            const bool atZero = extreme == 0.0;
+            const int n = atZero ? p.passengersAtZero : p.passengersAtOne;
+            const int endSeat = atZero ? p.firstSeat : p.lastSeat;
+            const int seatCount = p.lastSeat - p.firstSeat + 1;
+            // The seat the extreme draw gives, then seats further inside the range.
+            const auto seatDrawAt = [&](int k) {
+                return k == 0 ? extreme
+                              : seatDraw(atZero ? p.firstSeat + k : p.lastSeat - k, seatCount, p.firstSeat);
+            };
 
             rig.random.push(extreme); // the number of passengers
-            int seatsDrawn = 0;
-            if (isHeavy(p)) {
+            int seatsDrawn = n;
+            if (p.heavy()) {
                 const int allSeats = p.type.roles.lastPassenger - p.type.roles.firstPassenger + 1;
                 for (int k = 0; k < allSeats; ++k)
                     rig.random.push(extreme); // every seat's passenger
-                seatsDrawn = extreme == 0.0 ? 0 : allSeats - static_cast<int>(p.reserved.size()) - n;
+                seatsDrawn = atZero ? 0 : allSeats - static_cast<int>(p.reserved.size()) - n;
                 // A reserved seat at the end of the range is empty already: that draw is taken again.
-                const bool endReserved =
-                    std::find(p.reserved.begin(), p.reserved.end(), endSeat) != p.reserved.end();
+                const bool endReserved = std::count(p.reserved.begin(), p.reserved.end(), endSeat) > 0;
                 for (int k = 0; k < seatsDrawn + (endReserved ? 1 : 0); ++k)
-                    rig.random.push(seatDraws[static_cast<std::size_t>(k)]);
+                    rig.random.push(seatDrawAt(k));
                 rig.random.push(extreme); // the hold
             } else {
                 rig.random.push(extreme); // the hold
-                seatsDrawn = n;
-                for (int k = 0; k < n; ++k) {
-                    rig.random.push(extreme);
-                    rig.random.push(seatDraws[static_cast<std::size_t>(k)]);
-                }
+                for (int k = 0; k < n; ++k)
+                    push(rig.random, {extreme, seatDrawAt(k)});
             }
             (form.*p.click)();
 
             const LoadState& state = rig.session.state;
-            EXPECT_EQ(rig.random.left(), 0u);
-            EXPECT_EQ(rig.random.overdrawn(), 0);
+            EXPECT_EQ(std::tuple(rig.random.left(), rig.random.overdrawn()), std::tuple(0u, 0));
             EXPECT_EQ(state.npax, n);
             // Int(n × spread × draw): 0, or one short of n × spread.
-            const int extra = extreme == 0.0 ? 0 : n * p.spread - 1;
-            EXPECT_EQ(state.stationweight[p.type.roles.hold], p.perPassenger * n + extra);
-            if (seatsDrawn > 0) {
-                // A placed passenger, or a seat emptied, at the end of the range.
-                EXPECT_EQ(state.stationweight[endSeat] > 0, !isHeavy(p)) << "seat " << endSeat;
+            EXPECT_EQ(state.stationweight[p.type.roles.hold],
+                      p.perPassenger * n + (atZero ? 0 : n * p.spread - 1));
+            if (seatsDrawn > 0) { // a placed passenger, or a seat emptied, at the end of the range
+                EXPECT_EQ(state.stationweight[endSeat] > 0, !p.heavy()) << "seat " << endSeat;
             }
-            for (int seat : occupiedPassengerSeats(rig, p.type)) {
-                if (extreme == 0.0)
-                    EXPECT_EQ(state.stationweight[seat], 54);
-                else
-                    EXPECT_FLOAT_EQ(state.stationweight[seat], 242);
-                if (!isHeavy(p)) {
-                    EXPECT_GE(seat, p.firstSeat);
-                    EXPECT_LE(seat, p.lastSeat);
-                }
+            for (int seat : passengerSeats(rig, p.type)) {
+                EXPECT_FLOAT_EQ(state.stationweight[seat], atZero ? 54 : 242);
+                EXPECT_TRUE(p.heavy() || (seat >= p.firstSeat && seat <= p.lastSeat)) << seat;
             }
-            for (int seat : isHeavy(p) && extreme != 0.0 ? p.reserved : std::vector<int>{})
+            for (int seat : p.heavy() && !atZero ? p.reserved : std::vector<int>{})
                 EXPECT_EQ(state.stationweight[seat], 0) << "reserved seat " << seat;
         }
     }
@@ -284,63 +243,39 @@ TEST(RegionalPresets, EveryPresetKeepsItsRangesAndTheSum)
                     continue;
                 (form.*p.click)();
                 const LoadState& state = rig.session.state;
-                ASSERT_GE(state.npax, std::min(p.passengersAtZero, p.passengersAtOne)) << nameOf(p);
-                ASSERT_LE(state.npax, std::max(p.passengersAtZero, p.passengersAtOne)) << nameOf(p);
+                ASSERT_GE(state.npax, std::min(p.passengersAtZero, p.passengersAtOne)) << p.name();
+                ASSERT_LE(state.npax, std::max(p.passengersAtZero, p.passengersAtOne)) << p.name();
                 ASSERT_GE(state.stationweight[type->roles.hold], p.perPassenger * state.npax);
                 ASSERT_LT(state.stationweight[type->roles.hold], (p.perPassenger + p.spread) * state.npax);
-                for (int seat : occupiedPassengerSeats(rig, *type)) {
+                for (int seat : passengerSeats(rig, *type)) {
                     ASSERT_GE(state.stationweight[seat], 54);
                     ASSERT_LT(state.stationweight[seat], 242);
-                    if (!isHeavy(p)) {
-                        ASSERT_GE(seat, p.firstSeat) << nameOf(p);
-                        ASSERT_LE(seat, p.lastSeat) << nameOf(p);
-                    }
+                    ASSERT_TRUE(p.heavy() || (seat >= p.firstSeat && seat <= p.lastSeat))
+                        << p.name() << " " << seat;
                 }
-                if (type == &beechType()) {
-                    ASSERT_EQ(state.stationweight[0], 100) << "avionics";
-                }
+                ASSERT_TRUE(type != &beechType() || state.stationweight[0] == 100) << "avionics";
                 ASSERT_EQ(state.loadweight, rig.sumOfWeights());
             }
         }
     }
 }
 
-TEST(RegionalPresets, ExtremeDrawsStayInsideTheWeightRange)
+TEST(RegionalPresets, ExtremeDrawsStayInsideTheWeightRangeAndAStuckGeneratorDoesNotHang)
 {
     RegionalRig rig;
     RegionalForm& form = rig.open(dhc8Type());
     rig.random.push(0.0); // n = 50
-    for (int i = 0; i < 25; ++i) {
-        rig.random.push(0.0);
-        rig.random.push(0.99999999);
-    }
+    for (int i = 0; i < 25; ++i)
+        push(rig.random, {0.0, 0.99999999});
     form.mnuheav_Click();
     for (int seat = 2; seat <= 51; ++seat) {
         EXPECT_GE(rig.session.state.stationweight[seat], 54);
         EXPECT_LT(rig.session.state.stationweight[seat], 242);
     }
-}
 
-TEST(RegionalPresets, TheSameSequenceGivesTheSameLoads)
-{
-    const auto run = [] {
-        SeededRandom generator;
-        RegionalRig rig(&generator);
-        RegionalForm& form = rig.open(dhc8Type());
-        form.mnuheav_Click();
-        form.mnulight_Click();
-        form.mnumed_Click();
-        return rig.session.state.stationweight;
-    };
-    EXPECT_EQ(run(), run());
-}
-
-TEST(RegionalPresets, AStuckGeneratorDoesNotHangTheForm)
-{
-    RegionalRig rig;
-    RegionalForm& form = rig.open(beechType());
-    form.mnumed_Click(); // every draw 0: seven passengers all drawn onto seat 3
-    EXPECT_EQ(occupiedPassengerSeats(rig, beechType()), (std::vector<int>{3, 4, 5, 6, 7, 8, 9}));
+    RegionalForm& beech = rig.open(beechType());
+    beech.mnumed_Click(); // every draw 0: seven passengers all drawn onto seat 3
+    EXPECT_EQ(passengerSeats(rig, beechType()), (std::vector<int>{3, 4, 5, 6, 7, 8, 9}));
 }
 
 } // namespace

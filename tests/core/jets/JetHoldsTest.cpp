@@ -1,13 +1,8 @@
-#include "jets/data767.h"
-
-#include "JetChecks.h"
 #include "JetRig.h"
 
-#include <algorithm>
-#include <cmath>
 #include <gtest/gtest.h>
 #include <numeric>
-#include <set>
+#include <tuple>
 
 namespace quillet {
 namespace {
@@ -47,33 +42,26 @@ std::vector<int> range(int first, int last)
     return values;
 }
 
-TEST_F(B767Form, AForwardZoneAbove45000PoundsMarksEveryForwardContainer)
+TEST_F(B767Form, AZoneAboveItsLimitMarksEveryStationOfTheZone)
 {
-    // Sixteen containers of 2700 lb hold 43200 lb at most, so 45000 lb needs one container over its
-    // own limit: that one alone is marked until the zone passes 45000.
+    const auto checkWith = [&](int station, float weight) {
+        rig.session.state.stationweight[station] = weight;
+        form->cargocheck();
+        return marked(" Zone Overload");
+    };
+    // Sixteen containers of 2700 lb hold 43200 lb at most, so 45000 lb forward needs one container
+    // over its own limit: that one alone is marked until the zone passes 45000.
     load(kFirstForward, kLastForward - 1, 2700);
     load(kFirstAft, kBulk, 1000);
-    rig.session.state.stationweight[kLastForward] = 4500;
-    form->cargocheck();
-    EXPECT_EQ(marked(" Zone Overload"), std::vector<int>{kLastForward});
-
-    rig.session.state.stationweight[kLastForward] = 4501;
-    form->cargocheck();
-    EXPECT_EQ(marked(" Zone Overload"), range(kFirstForward, kLastForward));
+    EXPECT_EQ(checkWith(kLastForward, 4500), std::vector<int>{kLastForward});
+    EXPECT_EQ(checkWith(kLastForward, 4501), range(kFirstForward, kLastForward));
     EXPECT_TRUE(marked(" Container Overload").empty());
-}
 
-TEST_F(B767Form, AnAftZoneAbove37800PoundsMarksTheAftContainersAndTheBulkHold)
-{
+    // The aft zone's 37800 lb count the bulk hold, which is marked with the aft containers.
     load(kFirstForward, kLastForward, 2000);
     load(kFirstAft, kBulk - 1, 2500);
-    rig.session.state.stationweight[kBulk] = 2800;
-    form->cargocheck();
-    EXPECT_TRUE(marked(" Zone Overload").empty());
-
-    rig.session.state.stationweight[kBulk] = 2801;
-    form->cargocheck();
-    EXPECT_EQ(marked(" Zone Overload"), range(kFirstAft, kBulk));
+    EXPECT_TRUE(checkWith(kBulk, 2800).empty());
+    EXPECT_EQ(checkWith(kBulk, 2801), range(kFirstAft, kBulk));
 }
 
 TEST_F(B767Form, TheClickThatTipsTheZoneHatchesAllForwardContainersRed)
@@ -103,34 +91,26 @@ TEST_F(B767Form, TheClickThatTipsTheZoneHatchesAllForwardContainersRed)
     EXPECT_EQ(rig.picture().ops(DrawOp::Kind::Text).back().text, " Container F1L 2700 lb.");
 }
 
-TEST_F(B767Form, DecksAreDrawnAtTheirPoints)
+TEST(JetMD90_30, TheAftHoldLiesOnTheLowerDeckAndTurnsRedAboveItsMaximum)
 {
-    rig.picture().forget();
-    form->redraw();
-    RecordingCanvas& canvas = rig.picture();
-    // The hold labels start at x = 10 and x = -67 ft.
-    expectTexts(canvas, {{"Main Deck", 123.75, 165},
-                         {"Lower Deck", kAnywhere, 1320},
-                         {"Forward", 4358.75, 1595 - canvas.textHeight("T") / 2},
-                         {"Aft", 8593.75, kAnywhere}});
-    EXPECT_FALSE(canvas.ops(DrawOp::Kind::Text).back().bold);
+    JetRig rig;
+    Boeing& form = rig.open("MD-90-30");
+    LoadState& state = rig.session.state;
+    const int forwardHold = 164;
+    const int aftHold = 166;
+    // (93.5 - 46) * 60 and 26 * 60.
+    EXPECT_EQ(std::tuple(state.stationpx[forwardHold], state.stationpy[forwardHold]), std::tuple(2850, 1560));
+    EXPECT_EQ(std::tuple(state.stationpx[aftHold], state.stationpy[aftHold]), std::tuple(7200, 1560));
 
-    // One fitting box, 261 seats and 30 containers; eight crew circles.
-    const auto boxes = canvas.ops(DrawOp::Kind::Box);
-    ASSERT_EQ(boxes.size(), 1u + 261 + 30);
-    EXPECT_EQ(canvas.ops(DrawOp::Kind::Circle).size(), 8u);
-    const auto f1l = std::find_if(boxes.begin(), boxes.end(), [](const DrawOp& box) {
-        return std::fabs(box.x1 - 2021.25) < 0.005 && std::fabs(box.y1 - 1597.06) < 0.005;
-    });
-    ASSERT_NE(f1l, boxes.end());
-    EXPECT_NEAR(f1l->x2 - f1l->x1, 5 * 55, 1e-9);
-    EXPECT_NEAR(f1l->y2 - f1l->y1, 5.125 * 55, 1e-9);
-    // First-class seat 1A: 1.8 ft square from (49.4 + 0.9, -6.67 + 0.9).
-    EXPECT_NEAR(boxes[1].x1, (89.25 - 50.3) * 55, 1e-3);
-    EXPECT_NEAR(boxes[1].y1, (10 + 5.77) * 55, 1e-3);
-    EXPECT_NEAR(boxes[1].x2 - boxes[1].x1, 99, 1e-9);
-    // Economy seat 5A: 1.5 ft.
-    EXPECT_NEAR(boxes[25].x2 - boxes[25].x1, 82.5, 1e-9);
+    rig.prompt.answer("5169");
+    rig.picture().forget();
+    form.Picture1_MouseDown(Boeing::kLeftButton, 0, 7200, 1560);
+    ASSERT_EQ(rig.prompt.asked().size(), 1u);
+    EXPECT_EQ(rig.prompt.asked()[0].prompt, "Lower Deck Cargo Aft weight in lbs");
+    EXPECT_EQ(state.stationmsg[aftHold], " Zone Overload");
+    const auto fills = rig.picture().ops(DrawOp::Kind::FloodFill);
+    ASSERT_EQ(fills.size(), 1u);
+    EXPECT_EQ(std::tuple(fills[0].fillColor, fills[0].x1, fills[0].y1), std::tuple(kRed, 480.0, 104.0));
 }
 
 } // namespace
