@@ -1,6 +1,5 @@
 #include "GuiFixture.h"
 #include "LayoutCheck.h"
-
 #include "shell/ConfigDialog.h"
 
 #include <QGroupBox>
@@ -29,7 +28,7 @@ const std::vector<Control> kMainWindow = {
 };
 const Line kMainRule{"Line1", 3600, 3120, 600, 3120};
 const std::vector<MenuEntry> kMainMenus = {
-    {"mnuconfigure", "&Configure"}, {"mnuconfigair", "&Aircraft"},     {"mnuabout", "&About"},
+    {"mnuconfigure", "&Configure"}, {"mnuconfigair", "&Aircraft"},  {"mnuabout", "&About"},
     {"munver", "&Version"},         {"mnucopyright", "&Copyright"},
 };
 
@@ -64,22 +63,15 @@ protected:
     }
 };
 
-TEST_F(ShellLayout, MainWindowControlsStandWhereDesigned)
+TEST_F(ShellLayout, MainWindowConverterAndConfigurationDialogControlsStandWhereDesigned)
 {
     QWidget* client = main()->centralWidget();
     EXPECT_EQ(client->size(), QSize(pixels(8460), pixels(3510)));
     expectControls(client, kMainWindow);
     expectLine(client, kMainRule);
     expectMenus(main(), kMainMenus);
-}
-
-TEST_F(ShellLayout, ConverterControlsStandWhereDesigned)
-{
     expectControls(find<QGroupBox>(main(), "Converter"), kConverter);
-}
 
-TEST_F(ShellLayout, ConfigurationDialogControlsStandWhereDesigned)
-{
     ConfigDialog* dialog = app->configDialog();
     EXPECT_EQ(dialog->size(), QSize(pixels(5370), pixels(2415)));
     // The check box's indicator is larger than its designed box in this style: it grows from its
