@@ -1,5 +1,4 @@
 #include "GuiFixture.h"
-#include "freighter/DC10F.h"
 
 #include <QTest>
 
@@ -9,26 +8,16 @@ namespace {
 constexpr QRgb kGreenPixel = 0x00FF00;
 constexpr QRgb kRedPixel = 0xFF0000;
 
-// The DC-10-30F's form opened with "Adjust".
-class FreighterWindowGui : public GuiFixture {
-protected:
-    void SetUp() override
-    {
-        startWith({"DC-10-30F"});
-        window = adjust();
-        ASSERT_NE(window, nullptr);
-    }
+using FreighterWindowGui = GuiFixture;
 
-    std::set<QRgb> deck(int left, int top, int right, int bottom) const
-    {
-        return colours(window, "Picture1", left, top, right, bottom);
-    }
-
-    QMainWindow* window = nullptr;
-};
-
-TEST_F(FreighterWindowGui, OpensWithItsControlsAndLoadsAContainerWithTheMouse)
+TEST_F(FreighterWindowGui, OpensWithItsControlsAndLoadsAContainerWithTheMouseAndTheHeavyPreset)
 {
+    startWith({"DC-10-30F"});
+    QMainWindow* window = adjust();
+    ASSERT_NE(window, nullptr);
+    const auto deck = [&](int left, int top, int right, int bottom) {
+        return colours(window, "Picture1", left, top, right, bottom);
+    };
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(shownTitle(window), "DC-10-30F");
     EXPECT_EQ(window->centralWidget()->size(), QSize(637, 295));
@@ -57,36 +46,16 @@ TEST_F(FreighterWindowGui, OpensWithItsControlsAndLoadsAContainerWithTheMouse)
     EXPECT_FALSE(box.count(kRedPixel));
     EXPECT_FALSE(deck(143, 49, 175, 57).count(kGreenPixel));
 
+    find<QAction>(window, "mnuheav")->trigger();
+    EXPECT_EQ(text("lblpass", window), "Containers  38 / 38");
+    EXPECT_FALSE(deck(0, 0, 632, 139).count(kRedPixel));
+    EXPECT_FALSE(find<QLabel>(window, "warning")->isVisible());
+
     window->close();
     QApplication::processEvents();
     EXPECT_TRUE(main()->isVisible());
     // The main window shows the last saved load, and nothing was saved.
     EXPECT_EQ(text("lblpax"), "PAX weight =  0 lb.");
-}
-
-TEST_F(FreighterWindowGui, HeavyLoadFillsEveryContainerWithinItsLimits)
-{
-    find<QAction>(window, "mnuheav")->trigger();
-    EXPECT_EQ(text("lblpass", window), "Containers  38 / 38");
-    const auto all = deck(0, 0, 632, 139);
-    EXPECT_TRUE(all.count(kGreenPixel));
-    EXPECT_FALSE(all.count(kRedPixel));
-    EXPECT_FALSE(find<QLabel>(window, "warning")->isVisible());
-}
-
-TEST_F(FreighterWindowGui, AnOverloadedZoneTurnsItsContainersRedAndIsNamedAtTheTop)
-{
-    // 1L to 3R, full: 53680 lb in zone 1, whose limit is 50000.
-    const QPoint containers[] = {{155, 31}, {155, 59}, {191, 31}, {191, 59}, {227, 31}, {227, 59}};
-    for (const char* weight : {"8800", "8800", "9020", "9020", "9020", "9020"})
-        prompt.answer(weight);
-    for (const QPoint& at : containers)
-        QTest::mouseClick(find<QWidget>(window, "Picture1"), Qt::LeftButton, {}, at);
-    EXPECT_EQ(static_cast<DC10F&>(*app->forms().existing("DC10F")).overloadNote, "Zone Overload");
-    EXPECT_TRUE(deck(143, 19, 175, 43).count(kRedPixel));
-    EXPECT_FALSE(deck(143, 19, 175, 43).count(kGreenPixel));
-    // The note at (500, 50) twips, over "Main Deck".
-    EXPECT_TRUE(deck(33, 3, 120, 15).count(kRedPixel));
 }
 
 } // namespace

@@ -29,45 +29,13 @@ protected:
     QMainWindow* window = nullptr;
 };
 
-TEST_F(CRJ200WindowGui, EveryElementIsWhereTheFormPutsItAndTheMenusCarryTheirCaptions)
+// Where the controls stand is the regional layout test's; here, what the window itself adds.
+TEST_F(CRJ200WindowGui, PressesAndMovesReachTheSeatMapAndThePresetsTheForm)
 {
-    EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(shownTitle(window), "Quillet - Bombardier CRJ-200ER");
-    EXPECT_EQ(window->accessibleName(), "Quillet - Bombardier CRJ-200ER");
-    EXPECT_EQ(window->centralWidget()->size(), QSize(659, 262)); // 9885 x 3930 twips
-    const std::pair<const char*, QRect> places[] = {
-        {"Picture2", {8, 24, 625, 68}},    {"Picture1", {288, 136, 164, 117}},
-        {"Picture4", {488, 176, 153, 25}}, {"Label2", {488, 199, 153, 17}},
-        {"Picture3", {508, 216, 113, 25}}, {"Label3", {488, 240, 153, 17}},
-        {"Label1", {16, 144, 257, 25}},    {"lblbow", {24, 168, 249, 17}},
-        {"lbltot", {24, 216, 249, 17}},    {"warning", {24, 240, 249, 17}},
-        {"lblpass", {472, 128, 137, 17}},  {"lblmaxfuel", {472, 160, 169, 25}},
-        {"Line1", {16, 215, 257, 1}},
-    };
-    for (const auto& [name, pixels] : places)
-        EXPECT_EQ(find<QWidget>(window, name)->geometry(), pixels) << name;
-
     EXPECT_EQ(seatMap()->accessibleName(), "Seat map");
-    EXPECT_EQ(find<QWidget>(window, "Picture1")->accessibleName(), "Photograph of the CRJ-200ER");
-    EXPECT_EQ(find<QWidget>(window, "Picture4")->accessibleName(), "Longitudinal Balance");
-    EXPECT_EQ(find<QWidget>(window, "Picture3")->accessibleName(), "Lateral Balance");
     EXPECT_FALSE(find<PictureBox>(window, "Picture1")->picture().isNull());
     EXPECT_EQ(text("lblbow", window), "Basic Operating weight = 35000 lb.");
-    EXPECT_EQ(text("Label1", window), "Demonstrated configuration");
-    EXPECT_EQ(menuTexts(window),
-              "&File|&Reload Configuration|&Save Configuration|-|&Undo|&Redo|-|Load &Sheet...|"
-              "&AutoLoad|&Light Load|&Medium Load|&Heavy Load|-|Load to &Target...");
 
-    find<QAction>(window, "mnuheav")->trigger();
-    const QString passengers = text("lblpass", window);
-    ASSERT_TRUE(passengers.startsWith("Passengers  ")) << passengers.toStdString();
-    const int count = passengers.mid(12).section(' ', 0, 0).toInt();
-    EXPECT_GE(count, 34);
-    EXPECT_LE(count, 50);
-}
-
-TEST_F(CRJ200WindowGui, PressesAndMovesReachTheSeatMap)
-{
     // Seat 1A lies at (2721, 862) twips: pixel (181, 57).
     prompt.answer("170");
     QTest::mouseClick(seatMap(), Qt::LeftButton, {}, QPoint(181, 57));
@@ -95,6 +63,13 @@ TEST_F(CRJ200WindowGui, PressesAndMovesReachTheSeatMap)
     ASSERT_EQ(prompt.asked().size(), 2u);
     EXPECT_EQ(prompt.asked()[1].title, "Cargo details");
     EXPECT_EQ(text("lblpax", window), "PAX weight =  1370 lb.");
+
+    find<QAction>(window, "mnuheav")->trigger();
+    const QString passengers = text("lblpass", window);
+    ASSERT_TRUE(passengers.startsWith("Passengers  ")) << passengers.toStdString();
+    const int count = passengers.mid(12).section(' ', 0, 0).toInt();
+    EXPECT_GE(count, 34);
+    EXPECT_LE(count, 50);
 }
 
 } // namespace

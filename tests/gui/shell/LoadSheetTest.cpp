@@ -100,18 +100,6 @@ INSTANTIATE_TEST_SUITE_P(Types, SheetOfEveryType,
                              return testNameOf(kAircraftTypes[static_cast<std::size_t>(info.param)].type);
                          });
 
-TEST_F(PdfSheet, AnExceededLimitIsPrintedAsExceeded)
-{
-    LoadFormWindow* window = adjust(0);
-    ASSERT_NE(window, nullptr);
-    // 9000 lb on the first seat puts the Beech 1900D 4615 lb over its zero-fuel weight of 15000 lb.
-    Plan plan;
-    plan.weights = {{0, 9000.0f}};
-    app->handle([&] { window->form().applyPlan(plan); });
-    const std::string text = writtenSheet(window);
-    EXPECT_TRUE(carries(text, "EXCEEDED by 4615 lb (2093 kg)")) << text;
-}
-
 TEST_F(SheetGui, FileMenuEndsWithTheLoadSheetWhichOpensItsPreview)
 {
     LoadFormWindow* window = adjust(0);
