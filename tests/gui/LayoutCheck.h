@@ -3,27 +3,14 @@
 #include "GuiFixture.h"
 
 #include <QAbstractButton>
-#include <QAction>
-#include <QApplication>
-#include <QComboBox>
 #include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QWidget>
-#include <algorithm>
 #include <cctype>
 #include <cmath>
 #include <deque>
-#include <filesystem>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <iterator>
 #include <optional>
-#include <ostream>
 #include <sstream>
-#include <string>
-#include <vector>
 
 // Readable rectangles in failure messages.
 inline void PrintTo(const QRect& rect, std::ostream* out)

@@ -15,7 +15,7 @@ constexpr QRgb kBlackPixel = 0x000000;
 constexpr QRgb kGreenPixel = 0x00FF00;
 constexpr QRgb kRedPixel = 0xFF0000;
 
-TEST(QtCanvas, DrawsInTwipsFifteenToThePixel)
+TEST(QtCanvas, DrawsInTwipsFifteenToThePixelAndClearGoesBackToTheKeptBackground)
 {
     QtCanvas canvas(1500, 750); // 100 x 50 pixels
     EXPECT_EQ(canvas.image().size(), QSize(100, 50));
@@ -25,11 +25,7 @@ TEST(QtCanvas, DrawsInTwipsFifteenToThePixel)
     EXPECT_EQ(at(canvas, 50, 21), kWhitePixel);
     canvas.clear();
     EXPECT_EQ(at(canvas, 50, 20), kWhitePixel);
-}
 
-TEST(QtCanvas, ClearGoesBackToTheKeptBackground)
-{
-    QtCanvas canvas(1500, 750);
     canvas.line(0, 150, 1485, 150, kBlack);
     canvas.keepAsBackground();
     canvas.setFillStyle(FillStyle::Solid);

@@ -57,18 +57,12 @@ TEST_F(RegionalWindowGui, LoadASeatSaveAndClose)
     EXPECT_TRUE(told.empty()) << told.front();
 }
 
-TEST_F(RegionalWindowGui, PhotographAndCabinAreShownAndAMissingPhotoLeavesABlankBox)
+// A picture that cannot be read leaves the photograph's box blank, and says so.
+TEST_F(RegionalWindowGui, AnUnreadablePhotoLeavesABlankBox)
 {
-    QWidget* beech = adjust();
-    EXPECT_FALSE(find<PictureBox>(beech, "Picture2")->picture().isNull());
-    EXPECT_NE(find<PictureBox>(beech, "Picture1")->canvas(), nullptr);
-    EXPECT_EQ(find<QWidget>(beech, "Picture1")->geometry(), QRect(8, 0, 621, 93));
-    beech->close();
-
-    std::filesystem::remove(dir.path() / "beech.gif");
     dir.write("emb120.gif", "not a picture");
     dir.makeAircraft("emb");
-    dir.writeIni(dir.sim(), {"Empraer EMB_120,emb", "Beech 1900D,plane0"});
+    dir.writeIni(dir.sim(), {"Empraer EMB_120,emb"});
     told.clear();
     app->handle([this] { app->form1().mnuconfigair_Click(); });
     QWidget* emb = adjust();
@@ -76,10 +70,6 @@ TEST_F(RegionalWindowGui, PhotographAndCabinAreShownAndAMissingPhotoLeavesABlank
     EXPECT_TRUE(find<PictureBox>(emb, "Picture1")->picture().isNull());
     ASSERT_FALSE(told.empty());
     EXPECT_NE(told[0].find("emb120.gif\" could not be shown"), std::string::npos) << told[0];
-
-    prompt.answer("200");
-    QTest::mouseClick(find<QWidget>(emb, "location(32)"), Qt::LeftButton);
-    EXPECT_EQ(find<QWidget>(emb, "location(32)")->toolTip(), "Cargo 200 lb.");
 }
 
 } // namespace
