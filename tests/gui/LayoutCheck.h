@@ -204,12 +204,10 @@ inline void expectMenus(const QWidget* window, const std::vector<MenuEntry>& ent
     for (const MenuEntry& entry : entries) {
         SCOPED_TRACE(entry.name);
         const QString name = QString::fromLatin1(entry.name);
-        if (const auto* menu = window->findChild<QMenu*>(name))
-            EXPECT_EQ(menu->title(), QString::fromLatin1(entry.caption));
-        else if (const auto* action = window->findChild<QAction*>(name))
-            EXPECT_EQ(action->text(), QString::fromLatin1(entry.caption));
-        else
-            ADD_FAILURE() << "no menu or menu item of this name";
+        const auto* menu = window->findChild<QMenu*>(name);
+        const auto* action = window->findChild<QAction*>(name);
+        ASSERT_TRUE(menu || action) << "no menu or menu item of this name";
+        EXPECT_EQ(menu ? menu->title() : action->text(), QString::fromLatin1(entry.caption));
     }
 }
 

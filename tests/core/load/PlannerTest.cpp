@@ -350,7 +350,9 @@ const Outcome kOutcomes[] = {
             "The zero-fuel weight would be 15845 lb, above the maximum of 15000 lb by 845 lb."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Requests, PlanOutcome, ::testing::ValuesIn(kOutcomes));
+INSTANTIATE_TEST_SUITE_P(Requests, PlanOutcome, ::testing::ValuesIn(kOutcomes), [](const auto& info) {
+    return testNameOf(info.param.type) + "_" + std::to_string(info.index);
+});
 
 } // namespace
 } // namespace quillet
