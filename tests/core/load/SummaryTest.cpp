@@ -47,7 +47,10 @@ Rgb dot(const RecordingCanvas& picture)
 {
     const auto circles = picture.ops(DrawOp::Kind::Circle);
     EXPECT_EQ(circles.size(), 1u);
-    return circles.empty() ? Rgb{} : circles.front().colour;
+    if (circles.empty())
+        return {};
+    EXPECT_EQ(circles.front().fillColor, circles.front().colour) << "a dot filled in its own colour";
+    return circles.front().colour;
 }
 
 TEST(WeightSummary, EmptyAircraftAndAnOverloadWithANegativeFuelAllowance)

@@ -23,6 +23,8 @@ TEST_F(RegionalWindowGui, LoadASeatSaveAndClose)
     EXPECT_TRUE(beech->isVisible());
     EXPECT_FALSE(main()->isVisible());
     EXPECT_EQ(shownTitle(beech), "Quillet - Beech 1900D");
+    EXPECT_FALSE(find<PictureBox>(beech, "Picture2")->picture().isNull());
+    EXPECT_NE(find<PictureBox>(beech, "Picture1")->canvas(), nullptr) << "the cabin is drawn";
 
     QWidget* seat = find<QWidget>(beech, "location(3)");
     EXPECT_EQ(seat->toolTip(), "Empty");

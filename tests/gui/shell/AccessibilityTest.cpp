@@ -94,6 +94,7 @@ TEST_F(AccessibilityGui, ControlsAreNamedAfterTheirLabelsAndAHotSpotTellsItsLoad
     EXPECT_EQ(accessibleName(cabin), "Cabin of the Beech 1900D");
     EXPECT_EQ(accessibleName(find<QWidget>(beech, "Picture2")), "Photograph of the Beech 1900D");
     EXPECT_EQ(accessibleName(find<QWidget>(beech, "Picture4")), "Longitudinal Balance");
+    EXPECT_EQ(accessibleName(find<QWidget>(beech, "Picture3")), "Lateral Balance");
 
     QWidget* seat = find<QWidget>(beech, "location(3)");
     QAccessibleInterface* announced = QAccessible::queryAccessibleInterface(seat);
