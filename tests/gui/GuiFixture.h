@@ -1,22 +1,26 @@
 #pragma once
 
+#include "ProgramFolder.h"
+#include "platform/PictureBox.h"
 #include "platform/Prompt.h"
+#include "platform/QtCanvas.h"
+#include "shell/AircraftTypes.h"
 #include "shell/Application.h"
+#include "shell/LoadFormWindow.h"
 #include "shell/MainWindow.h"
 
-#include "ProgramFolder.h"
-
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QWidget>
 #include <QWindow>
-
 #include <gtest/gtest.h>
-
 #include <memory>
 #include <set>
 #include <string>
@@ -41,6 +45,18 @@ inline QString shownTitle(const QWidget* window)
     return window->windowHandle() ? window->windowHandle()->title() : window->windowTitle();
 }
 
+// A window's menus and their items as its menu bar lists them, "-" for a separator.
+inline std::string menuTexts(const QWidget* window)
+{
+    QStringList texts;
+    for (QAction* menu : window->findChild<QMenuBar*>()->actions()) {
+        texts << menu->text();
+        for (QAction* item : menu->menu()->actions())
+            texts << (item->isSeparator() ? QStringLiteral("-") : item->text());
+    }
+    return texts.join(QLatin1Char('|')).toStdString();
+}
+
 // The whole program running on a program folder of its own.
 class GuiFixture : public ::testing::Test {
 protected:
@@ -52,7 +68,43 @@ protected:
         QApplication::processEvents();
     }
 
+    // A simulator whose aircraft list holds these types, each with this aircraft.cfg in a folder of its
+    // own ("plane0", "plane1", ...) and its picture in the program folder; then the program started.
+    void startWith(const std::vector<std::string>& types,
+                   const std::string& cfg = "[fltsim.0]\r\ntitle=test\r\n", bool simulator = true)
+    {
+        if (simulator)
+            dir.makeSimulator();
+        std::vector<std::string> entries;
+        for (const std::string& type : types) {
+            const std::string folder = "plane" + std::to_string(entries.size());
+            dir.makeAircraft(folder, "aircraft.cfg", cfg);
+            entries.push_back(type + "," + folder);
+            const std::string picture(findAircraftType(type)->picture);
+            dir.write(picture, TempDir::readFile(std::filesystem::path(QUILLET_PICTURES) / picture));
+        }
+        dir.writeIni(dir.sim(), entries);
+        start();
+    }
+
+    // The form of the index-th type in the aircraft list, opened with "Adjust".
+    LoadFormWindow* adjust(int index = 0)
+    {
+        app->handle([&] {
+            app->form1().Combo1.setListIndex(index);
+            app->form1().Command2_Click();
+        });
+        return app->window(std::string(findAircraftType(app->form1().Combo1.text())->form));
+    }
+
     QMainWindow* main() const { return app->mainWindow(); }
+
+    // The colours drawn in a pixel rectangle of a window's picture box.
+    std::set<QRgb> colours(QWidget* window, const char* picture, int left, int top, int right,
+                           int bottom) const
+    {
+        return coloursIn(find<PictureBox>(window, picture)->canvas()->image(), left, top, right, bottom);
+    }
 
     template <class T>
     T* find(QWidget* window, const char* name) const
@@ -61,7 +113,11 @@ protected:
         EXPECT_NE(widget, nullptr) << name;
         return widget;
     }
-    QString text(const char* label) const { return find<QLabel>(main(), label)->text(); }
+    // The text of a label of the window, the main window by default.
+    QString text(const char* label, QWidget* window = nullptr) const
+    {
+        return find<QLabel>(window ? window : main(), label)->text();
+    }
 
     ProgramFolder dir;
     ScriptedPrompt prompt;

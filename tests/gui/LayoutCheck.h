@@ -1,23 +1,16 @@
 #pragma once
 
+#include "GuiFixture.h"
+
 #include <QAbstractButton>
-#include <QAction>
-#include <QApplication>
-#include <QComboBox>
 #include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QWidget>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
+#include <cctype>
 #include <cmath>
+#include <deque>
+#include <fstream>
+#include <iterator>
 #include <optional>
-#include <ostream>
-#include <string>
-#include <vector>
+#include <sstream>
 
 // Readable rectangles in failure messages.
 inline void PrintTo(const QRect& rect, std::ostream* out)
@@ -60,6 +53,80 @@ struct MenuEntry {
     const char* name;
     const char* caption;
 };
+
+// A window or frame as designed, read from its layout file under tests/data, which was checked by
+// hand against the design's tables.
+struct Design {
+    std::string caption;
+    int clientWidth = 0;
+    int clientHeight = 0;
+    std::string cabin;
+    std::vector<Control> controls;
+    std::optional<Line> rule;
+    std::vector<MenuEntry> menus;
+    std::vector<Control> stations; // hot spot `location(i)` and marker `Shape1(i)` of each station
+    std::deque<std::string> text;  // what the entries above point into
+
+    void setFont(const char* name, const Font& font)
+    {
+        for (Control& control : controls) {
+            if (std::string_view(control.name) == name)
+                control.font = font;
+        }
+    }
+};
+
+// A line is a name (for a cabin and a photograph, a role and a name), numbers and a quoted text.
+inline Design readDesign(const std::string& file)
+{
+    Design design;
+    std::ifstream in(std::filesystem::path(QUILLET_TEST_DATA) / file);
+    EXPECT_TRUE(in) << file;
+    const auto keep = [&](std::string text) { return design.text.emplace_back(std::move(text)).c_str(); };
+    std::string line;
+    while (std::getline(in, line)) {
+        const auto quote = line.find('"');
+        const bool quoted = quote != std::string::npos;
+        const std::string caption = quoted ? line.substr(quote + 1, line.rfind('"') - quote - 1) : "";
+        std::istringstream words(line.substr(0, quote));
+        std::string kind, name;
+        words >> kind;
+        if (kind == "cabin" || kind == "photo")
+            words >> name;
+        std::string rest((std::istreambuf_iterator<char>(words)), {});
+        for (char& c : rest)
+            c = std::isdigit(static_cast<unsigned char>(c)) ? c : ' ';
+        std::istringstream numbers(rest);
+        const std::vector<int> n{std::istream_iterator<int>(numbers), {}};
+        Twips t; // a circle is given by its diameter and its corner
+        if (n.size() == 3)
+            t = {n[1], n[2], n[0], n[0]};
+        else if (n.size() == 4)
+            t = {n[0], n[1], n[2], n[3]};
+
+        if (kind == "caption") {
+            design.caption = caption;
+        } else if (kind == "client") {
+            design.clientWidth = n.at(0);
+            design.clientHeight = n.at(1);
+        } else if (kind == "Line1") {
+            design.rule = Line{"Line1", n.at(0), n.at(1), n.at(2), n.at(3)};
+        } else if (kind.starts_with("mnu") || kind.starts_with("mun")) {
+            design.menus.push_back({keep(kind), keep(caption)});
+        } else if (!name.empty()) {
+            design.controls.push_back({keep(name), t});
+            if (kind == "cabin")
+                design.cabin = name;
+        } else if (kind.starts_with("Shape1(") || kind.starts_with("location(")) {
+            // A hot spot is a label without caption.
+            design.stations.push_back(
+                {keep(kind), t, kind.starts_with("location(") ? std::optional("") : std::nullopt});
+        } else if (!kind.empty()) {
+            design.controls.push_back({keep(kind), t, quoted ? std::optional(keep(caption)) : std::nullopt});
+        }
+    }
+    return design;
+}
 
 // 15 twips to a pixel, to the nearest pixel.
 inline int pixels(int twips)
@@ -137,13 +204,23 @@ inline void expectMenus(const QWidget* window, const std::vector<MenuEntry>& ent
     for (const MenuEntry& entry : entries) {
         SCOPED_TRACE(entry.name);
         const QString name = QString::fromLatin1(entry.name);
-        if (const auto* menu = window->findChild<QMenu*>(name))
-            EXPECT_EQ(menu->title(), QString::fromLatin1(entry.caption));
-        else if (const auto* action = window->findChild<QAction*>(name))
-            EXPECT_EQ(action->text(), QString::fromLatin1(entry.caption));
-        else
-            ADD_FAILURE() << "no menu or menu item of this name";
+        const auto* menu = window->findChild<QMenu*>(name);
+        const auto* action = window->findChild<QAction*>(name);
+        ASSERT_TRUE(menu || action) << "no menu or menu item of this name";
+        EXPECT_EQ(menu ? menu->title() : action->text(), QString::fromLatin1(entry.caption));
     }
+}
+
+// A window's title, the size of its client area, and its controls, line and menus as designed.
+inline void expectDesign(const QWidget* window, const QWidget* client, const Design& design,
+                         const std::vector<std::string>& grows = {})
+{
+    EXPECT_EQ(shownTitle(window), QString::fromStdString(design.caption));
+    EXPECT_EQ(client->size(), QSize(pixels(design.clientWidth), pixels(design.clientHeight)));
+    expectControls(client, design.controls, grows);
+    if (design.rule)
+        expectLine(client, *design.rule);
+    expectMenus(window, design.menus);
 }
 
 } // namespace quillet::layout

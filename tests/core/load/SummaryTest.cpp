@@ -42,19 +42,22 @@ LoadState beechLike()
     return state;
 }
 
-DrawOp dot(const RecordingCanvas& picture)
+// The colour of the centre-of-gravity dot, drawn once.
+Rgb dot(const RecordingCanvas& picture)
 {
     const auto circles = picture.ops(DrawOp::Kind::Circle);
     EXPECT_EQ(circles.size(), 1u);
-    return circles.empty() ? DrawOp{} : circles.front();
+    if (circles.empty())
+        return {};
+    EXPECT_EQ(circles.front().fillColor, circles.front().colour) << "a dot filled in its own colour";
+    return circles.front().colour;
 }
 
-TEST(WeightSummary, EmptyAircraft)
+TEST(WeightSummary, EmptyAircraftAndAnOverloadWithANegativeFuelAllowance)
 {
     LoadState state = beechLike();
     TestForm form;
     summary(form, state, "Beech 1900D");
-
     EXPECT_EQ(form.labels.lblbow.text, "Basic Operating weight = 10615 lb.");
     EXPECT_EQ(form.labels.lblpax.text, "PAX weight =  0 lb.");
     EXPECT_EQ(state.fuelallowance, 3578) << "the tank limit is below take-off minus empty weight";
@@ -64,83 +67,33 @@ TEST(WeightSummary, EmptyAircraft)
     EXPECT_EQ(form.labels.lblmaxtow.text, "Max takeoff weight  16950 lb.");
     EXPECT_EQ(form.labels.lblmaxfuel.text, "Fuel capacity  3578 lb.");
     EXPECT_FALSE(form.labels.warning.visible);
-    EXPECT_EQ(form.labels.lblpax.foreColor, kBlack);
-    EXPECT_EQ(dot(form.picture4).fillColor, kBlue);
-    EXPECT_EQ(dot(form.picture3).fillColor, kBlue);
-}
 
-TEST(WeightSummary, ZeroFuelLimitIsStrict)
-{
-    LoadState state = beechLike();
-    state.stationweight[10] = state.loadweight = 15000 - 10615; // at x = 0: no balance warning
-    TestForm form;
-    summary(form, state, "Beech 1900D");
-    EXPECT_FALSE(form.labels.warning.visible);
-    EXPECT_EQ(form.labels.lblpax.foreColor, kBlack);
-
-    state.stationweight[10] = state.loadweight = 15000 - 10615 + 1;
-    summary(form, state, "Beech 1900D");
-    EXPECT_TRUE(form.labels.warning.visible);
-    EXPECT_EQ(form.labels.warning.text, "15000 lb Max. Zero Fuel Weight Exceeded");
-    EXPECT_EQ(form.labels.warning.foreColor, kRed);
-    EXPECT_EQ(form.labels.lblpax.foreColor, kRed);
-
-    // And back within the limit: the warning goes.
-    state.stationweight[10] = state.loadweight = 100;
-    summary(form, state, "Beech 1900D");
-    EXPECT_FALSE(form.labels.warning.visible);
-    EXPECT_EQ(form.labels.lblpax.foreColor, kBlack);
-}
-
-TEST(WeightSummary, OverloadGivesANegativeFuelAllowance)
-{
-    LoadState state = beechLike();
     state.maxzerofuel = 20000;
     state.stationweight[10] = state.loadweight = 6500;
-    TestForm form;
     summary(form, state, "Beech 1900D");
     EXPECT_EQ(state.fuelallowance, -165);
     EXPECT_EQ(form.labels.lblmf.text, "Maximum Allowable Fuel weight =  -165 lb.");
     EXPECT_EQ(form.labels.lbltot.text, "Total weight = 16950 lb.");
 }
 
-TEST(WeightSummary, OutOfBalanceReplacesTheZeroFuelWarning)
+TEST(WeightSummary, CountsComeFromTheFormsOwnCountAndFreightersCountMainDeckContainers)
 {
     LoadState state = beechLike();
-    state.stationweight[0] = state.loadweight = 5000; // all in the nose, and too heavy
-    TestForm form;
-    summary(form, state, "Beech 1900D");
-    EXPECT_TRUE(form.labels.warning.visible);
-    EXPECT_EQ(form.labels.warning.text, "Warning aircraft out of balance");
-    EXPECT_EQ(form.labels.lblpax.foreColor, kRed);
-    EXPECT_EQ(dot(form.picture4).fillColor, kRed);
-    EXPECT_EQ(dot(form.picture3).fillColor, kBlue);
-}
-
-TEST(WeightSummary, CountsComeFromTheFormsOwnCount)
-{
-    LoadState state = beechLike();
-    TestForm form;
-    form.count = [&state] { state.npax = 7; };
-    summary(form, state, "Beech 1900D");
-    EXPECT_EQ(form.labels.lblpass.text, "Passengers  7 / 19");
-}
-
-TEST(WeightSummary, FreightersCountMainDeckContainers)
-{
-    LoadState state;
-    state.maxpax = 0;
-    state.nstations = 2;
     state.ncargo = 17;
     state.nlower = 2;
     TestForm form;
-    form.count = [&state] { state.ncontainers = 4; };
-    summary(form, state, "B757-200F");
-    EXPECT_EQ(form.labels.lblpass.text, "Containers  4 / 15");
-    summary(form, state, "DC-9-30F");
-    EXPECT_EQ(form.labels.lblpass.text, "Containers  4 / 15");
-    summary(form, state, "b757-200f");
-    EXPECT_EQ(form.labels.lblpass.text, "Passengers  0 / 0") << "type strings compare with letter case";
+    form.count = [&state] {
+        state.npax = 7;
+        state.ncontainers = 4;
+    };
+    for (const auto& [type, line] : {std::pair{"Beech 1900D", "Passengers  7 / 19"},
+                                     {"B757-200F", "Containers  4 / 15"},
+                                     {"DC-9-30F", "Containers  4 / 15"},
+                                     {"DC-10-30F", "Containers  4 / 15"},
+                                     {"b757-200f", "Passengers  7 / 19"}}) { // letter case counts
+        summary(form, state, type);
+        EXPECT_EQ(form.labels.lblpass.text, line) << type;
+    }
 }
 
 // A load 0.4 ft aft of the reference point: out of balance on its 16 ft span (limit 0.32 ft), but
@@ -159,115 +112,16 @@ LoadState slightlyAft()
     return state;
 }
 
-TEST(WeightSummary, LeftoverStationsBeyondTheTypeWidenTheSpan)
+// The same span in balance: 250 lb at x = 4 then puts the centre of gravity 0.69 ft forward.
+LoadState balanced()
 {
     LoadState state = slightlyAft();
-    TestForm form;
-    summary(form, state, "Beech 1900D");
-    EXPECT_TRUE(form.labels.warning.visible);
-    EXPECT_EQ(dot(form.picture4).colour, kRed);
-
-    state.stationx[300] = -30; // left over from a larger type, weight 0
-    summary(form, state, "Beech 1900D");
-    EXPECT_FALSE(form.labels.warning.visible);
+    state.stationweight[1] = 100;
+    return state;
 }
 
-TEST(WeightSummary, TheBalanceTakesStationsUpTo400)
-{
-    for (const int station : {400, 401}) {
-        SCOPED_TRACE(station);
-        LoadState state = slightlyAft();
-        state.stationx[station] = -30;
-        TestForm form;
-        summary(form, state, "Beech 1900D");
-        EXPECT_EQ(form.labels.warning.visible, station == 401);
-        EXPECT_EQ(dot(form.picture4).colour, station == 401 ? kRed : kBlue);
-    }
-
-    // A weight there moves the centre of gravity: 250 lb at x = 4 puts it 0.69 ft forward.
-    for (const int station : {400, 401}) {
-        SCOPED_TRACE(station);
-        LoadState state = slightlyAft();
-        state.stationweight[1] = 100; // balanced without it
-        state.stationx[station] = 4;
-        state.stationweight[station] = 250;
-        TestForm form;
-        summary(form, state, "Beech 1900D");
-        EXPECT_EQ(dot(form.picture4).colour, station == 400 ? kRed : kBlue);
-    }
-}
-
-TEST(BalanceIndicator, BeechFigures)
-{
-    RecordingCanvas picture4(2295, 375);
-    RecordingCanvas picture3(1695, 375);
-    balance(18, -17, 2, -2, 0.5, 0, 0.02, picture4, picture3);
-
-    const auto lines = picture4.ops(DrawOp::Kind::Line);
-    ASSERT_EQ(lines.size(), 2u);
-    EXPECT_NEAR(lines[0].x1, 104.3, 0.05);
-    EXPECT_NEAR(lines[0].x2, 2190.7, 0.05);
-    EXPECT_NEAR(lines[0].y1, 187.5, 1e-9);
-    EXPECT_NEAR(lines[1].x1, 1177.3, 0.05) << "the tick at the reference point";
-    EXPECT_NEAR(lines[1].y1, 93.75, 1e-9);
-    EXPECT_NEAR(lines[1].y2, 281.25, 1e-9);
-    const DrawOp cg = dot(picture4);
-    EXPECT_NEAR(cg.x1, 1147.5, 0.05);
-    EXPECT_NEAR(cg.radius, 37.5, 1e-9);
-    EXPECT_EQ(cg.fillStyle, FillStyle::Solid);
-    EXPECT_EQ(cg.colour, kBlue);
-
-    EXPECT_EQ(picture4.ops().front().kind, DrawOp::Kind::Clear);
-    EXPECT_EQ(picture3.ops().front().kind, DrawOp::Kind::Clear);
-}
-
-TEST(BalanceIndicator, BlueOnTheTwoPercentBoundaryRedJustAbove)
-{
-    RecordingCanvas picture4(2295, 375);
-    RecordingCanvas picture3(1695, 375);
-    // Span 50: the limit is exactly 1.
-    balance(25, -25, 1, -1, 1.0, -0.04, 0.02, picture4, picture3);
-    EXPECT_EQ(dot(picture4).colour, kBlue);
-    EXPECT_EQ(dot(picture3).colour, kBlue);
-
-    picture4.forget();
-    picture3.forget();
-    balance(25, -25, 1, -1, 1.0001, -0.0401, 0.02, picture4, picture3);
-    EXPECT_EQ(dot(picture4).colour, kRed);
-    EXPECT_EQ(dot(picture3).colour, kRed);
-}
-
-TEST(BalanceIndicator, ZeroSpanCollapsesOntoTheCentre)
-{
-    RecordingCanvas picture4(2295, 375);
-    RecordingCanvas picture3(1695, 375);
-    balance(10, -10, 0, 0, 0, 0, 0.02, picture4, picture3);
-    const auto lines = picture3.ops(DrawOp::Kind::Line);
-    ASSERT_EQ(lines.size(), 2u);
-    EXPECT_DOUBLE_EQ(lines[0].x1, 847.5);
-    EXPECT_DOUBLE_EQ(lines[0].x2, 847.5);
-    EXPECT_DOUBLE_EQ(lines[1].x1, 847.5);
-    EXPECT_EQ(dot(picture3).colour, kBlue) << "exactly 0 is within a zero tolerance";
-
-    picture3.forget();
-    balance(10, -10, 0, 0, 0, 0.001, 0.02, picture4, picture3);
-    EXPECT_EQ(dot(picture3).colour, kRed);
-}
-
-TEST(BalanceIndicator, EveryCallStartsFromAClearPicture)
-{
-    RecordingCanvas picture4(2295, 375);
-    RecordingCanvas picture3(1695, 375);
-    balance(18, -17, 2, -2, 0, 0, 0.02, picture4, picture3);
-    balance(18, -17, 2, -2, 3, 0, 0.02, picture4, picture3);
-    const auto& ops = picture4.ops();
-    ASSERT_EQ(ops.size(), 8u);
-    EXPECT_EQ(ops[4].kind, DrawOp::Kind::Clear);
-}
-
-// A jet loaded on its left side only: the centre of gravity lies 0.55 ft left of the reference point,
-// beyond 2 % of the 12 ft span across but within 2 % of the 120 ft span along.
-TEST(WeightSummary, LoadOnOneSideOnlyIsOutOfBalanceAcross)
+// A jet with stations 60 ft either way along and 6 ft either way across.
+LoadState jetLike()
 {
     LoadState state;
     state.emptyweight = 10000;
@@ -276,13 +130,125 @@ TEST(WeightSummary, LoadOnOneSideOnlyIsOutOfBalanceAcross)
     state.stationx[1] = -60;
     state.stationy[2] = -6;
     state.stationy[3] = 6;
-    state.stationweight[2] = state.loadweight = 1000;
+    return state;
+}
+
+// An aircraft with one station placed at x and loaded with weight (none where station is -1).
+struct Verdict {
+    const char* name;
+    LoadState (*aircraft)();
+    int station;
+    float x, weight;
+    const char* warning; // nullptr while hidden
+    Rgb paxColour, along, across;
+};
+
+class WeightSummaryVerdicts : public ::testing::TestWithParam<Verdict> {};
+
+// Each verdict on a form that last warned of both limits, so that what no longer holds goes away.
+TEST_P(WeightSummaryVerdicts, WarningLineLabelColourAndBalanceDots)
+{
+    const Verdict& v = GetParam();
     TestForm form;
+    LoadState warned = beechLike();
+    warned.stationweight[0] = warned.loadweight = 5000;
+    summary(form, warned, "Beech 1900D");
+    form.picture4.forget();
+    form.picture3.forget();
+
+    LoadState state = v.aircraft();
+    if (v.station >= 0) {
+        state.stationx[v.station] = v.x;
+        state.stationweight[v.station] = v.weight;
+        state.loadweight += v.weight;
+    }
     summary(form, state, "B737-300");
-    EXPECT_TRUE(form.labels.warning.visible);
-    EXPECT_EQ(form.labels.warning.text, "Warning aircraft out of balance");
-    EXPECT_EQ(dot(form.picture4).colour, kBlue);
-    EXPECT_EQ(dot(form.picture3).colour, kRed);
+    EXPECT_EQ(form.labels.warning.visible, v.warning != nullptr);
+    if (v.warning) {
+        EXPECT_EQ(form.labels.warning.text, v.warning);
+        EXPECT_EQ(form.labels.warning.foreColor, kRed);
+    }
+    EXPECT_EQ(form.labels.lblpax.foreColor, v.paxColour);
+    EXPECT_EQ(dot(form.picture4), v.along);
+    EXPECT_EQ(dot(form.picture3), v.across);
+}
+
+const char* const kOutOfBalance = "Warning aircraft out of balance";
+const char* const kZeroFuel = "15000 lb Max. Zero Fuel Weight Exceeded";
+
+// The zero-fuel test is strict: at the limit passes, a pound above does not; out of balance replaces
+// its warning. A station left over from a larger type widens the span though it carries nothing;
+// the balance takes stations up to 400. The jet loaded on its left side only is 0.55 ft left of the
+// reference point, beyond 2 % of the 12 ft span across but within 2 % of the 120 ft span along.
+const Verdict kVerdicts[] = {
+    {"Empty", beechLike, -1, 0, 0, nullptr, kBlack, kBlue, kBlue},
+    {"AtTheZeroFuelLimit", beechLike, 10, 0, 4385, nullptr, kBlack, kBlue, kBlue},
+    {"OverTheZeroFuelLimit", beechLike, 10, 0, 4386, kZeroFuel, kRed, kBlue, kBlue},
+    {"AllInTheNose", beechLike, 0, 18, 5000, kOutOfBalance, kRed, kRed, kBlue},
+    {"SlightlyAft", slightlyAft, -1, 0, 0, kOutOfBalance, kBlack, kRed, kBlue},
+    {"LeftoverStation", slightlyAft, 300, -30, 0, nullptr, kBlack, kBlue, kBlue},
+    {"Station400Counts", slightlyAft, 400, -30, 0, nullptr, kBlack, kBlue, kBlue},
+    {"Station401DoesNot", slightlyAft, 401, -30, 0, kOutOfBalance, kBlack, kRed, kBlue},
+    {"WeightOn400", balanced, 400, 4, 250, kOutOfBalance, kBlack, kRed, kBlue},
+    {"WeightOn401", balanced, 401, 4, 250, nullptr, kBlack, kBlue, kBlue},
+    {"LeftSideOnly", jetLike, 2, 0, 1000, kOutOfBalance, kBlack, kBlue, kRed},
+};
+
+INSTANTIATE_TEST_SUITE_P(Loads, WeightSummaryVerdicts, ::testing::ValuesIn(kVerdicts),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(BalanceIndicator, BeechFiguresDrawnOnAClearedPicture)
+{
+    RecordingCanvas picture4(2295, 375);
+    RecordingCanvas picture3(1695, 375);
+    balance(18, -17, 2, -2, 3, 0, 0.02, picture4, picture3);
+    balance(18, -17, 2, -2, 0.5, 0, 0.02, picture4, picture3);
+
+    const auto& ops = picture4.ops();
+    ASSERT_EQ(ops.size(), 8u);
+    EXPECT_EQ(ops[4].kind, DrawOp::Kind::Clear);
+    EXPECT_EQ(picture3.ops()[4].kind, DrawOp::Kind::Clear);
+    EXPECT_NEAR(ops[5].x1, 104.3, 0.05);
+    EXPECT_NEAR(ops[5].x2, 2190.7, 0.05);
+    EXPECT_NEAR(ops[5].y1, 187.5, 1e-9);
+    EXPECT_NEAR(ops[6].x1, 1177.3, 0.05) << "the tick at the reference point";
+    EXPECT_NEAR(ops[6].y1, 93.75, 1e-9);
+    EXPECT_NEAR(ops[6].y2, 281.25, 1e-9);
+    const DrawOp& cg = ops[7];
+    ASSERT_EQ(cg.kind, DrawOp::Kind::Circle);
+    EXPECT_NEAR(cg.x1, 1147.5, 0.05);
+    EXPECT_NEAR(cg.radius, 37.5, 1e-9);
+    EXPECT_EQ(cg.fillStyle, FillStyle::Solid);
+    EXPECT_EQ(cg.colour, kBlue);
+}
+
+TEST(BalanceIndicator, BlueUpToTwoPercentOfTheSpanRedBeyond)
+{
+    struct Case {
+        double maxx, minx, maxy, miny, cgx, cgy;
+        Rgb along, across;
+    };
+    const Case cases[] = {
+        {25, -25, 1, -1, 1.0, -0.04, kBlue, kBlue}, // on the boundary: span 50, the limit exactly 1
+        {25, -25, 1, -1, 1.0001, -0.0401, kRed, kRed},
+        {10, -10, 0, 0, 0, 0, kBlue, kBlue}, // no span across: exactly 0 is within a zero tolerance
+        {10, -10, 0, 0, 0, 0.001, kBlue, kRed},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.cgy);
+        RecordingCanvas picture4(2295, 375);
+        RecordingCanvas picture3(1695, 375);
+        balance(c.maxx, c.minx, c.maxy, c.miny, c.cgx, c.cgy, 0.02, picture4, picture3);
+        EXPECT_EQ(dot(picture4), c.along);
+        EXPECT_EQ(dot(picture3), c.across);
+        if (c.maxy == c.miny) { // and the span collapses onto the centre
+            const auto lines = picture3.ops(DrawOp::Kind::Line);
+            ASSERT_EQ(lines.size(), 2u);
+            EXPECT_DOUBLE_EQ(lines[0].x1, 847.5);
+            EXPECT_DOUBLE_EQ(lines[0].x2, 847.5);
+            EXPECT_DOUBLE_EQ(lines[1].x1, 847.5);
+        }
+    }
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 #include "GuiFixture.h"
 #include "platform/QtPrompt.h"
 #include "shell/ConfigDialog.h"
-#include "shell/LoadFormWindow.h"
 
 #include <QDialog>
 #include <QTest>
@@ -12,41 +11,27 @@
 namespace quillet {
 namespace {
 
-// Each kind of load form, in the order of the aircraft list below, with its caption.
+// Each kind of load form, with its type and caption.
 struct FormWindow {
-    const char* form;
+    const char* type;
     const char* caption;
 };
 const FormWindow kForms[] = {
-    {"Beech", "Quillet - Beech 1900D"},           {"Emb120", "Quillet - Embraer EMB-120"},
-    {"DHC8", "Quillet - Bombardier DHC-8-300"},   {"Boeing", "B737-300"},
-    {"CRJ200", "Quillet - Bombardier CRJ-200ER"}, {"DC10F", "DC-10-30F"},
+    {"Beech 1900D", "Quillet - Beech 1900D"},        {"Empraer EMB_120", "Quillet - Embraer EMB-120"},
+    {"DHC-8-300", "Quillet - Bombardier DHC-8-300"}, {"B737-300", "B737-300"},
+    {"CRJ-200ER", "Quillet - Bombardier CRJ-200ER"}, {"DC-10-30F", "DC-10-30F"},
 };
 
-// Every kind of load form on a simulator folder that lacks fs2000.exe, so that the
-// configuration dialog opens at start beside the main window.
+// Every kind of load form on a simulator folder that lacks fs2000.exe, so that the configuration
+// dialog opens at start beside the main window.
 class AccessibilityGui : public GuiFixture {
 protected:
     void SetUp() override
     {
-        dir.makeAircraft("beech");
-        dir.makeAircraft("emb120");
-        dir.makeAircraft("dhc8");
-        dir.makeAircraft("b737");
-        dir.makeAircraft("crj");
-        dir.makeAircraft("dc10");
-        dir.writeIni(dir.sim(), {"Beech 1900D,beech", "Empraer EMB_120,emb120", "DHC-8-300,dhc8",
-                                 "B737-300,b737", "CRJ-200ER,crj", "DC-10-30F,dc10"});
-        start();
-    }
-
-    QWidget* open(int index)
-    {
-        app->handle([&] {
-            app->form1().Combo1.setListIndex(index);
-            app->form1().Command2_Click();
-        });
-        return app->window(kForms[index].form);
+        std::vector<std::string> types;
+        for (const FormWindow& form : kForms)
+            types.emplace_back(form.type);
+        startWith(types, "[fltsim.0]\r\ntitle=test\r\n", false);
     }
 };
 
@@ -58,9 +43,10 @@ void expectWindow(QWidget* window, QAccessible::Role role, const QString& title)
     EXPECT_EQ(shownTitle(window), title);
     EXPECT_EQ(accessibleRole(window), role) << "a frame is role Window, a dialog Dialog; Client is a filler";
     EXPECT_EQ(accessibleName(window), title);
+    EXPECT_EQ(unnamedControls(window), QStringList());
 }
 
-TEST_F(AccessibilityGui, EveryWindowIsAFrameOrADialogNamedByItsTitle)
+TEST_F(AccessibilityGui, EveryWindowIsAFrameOrADialogNamedByItsTitleWithEveryControlNamed)
 {
     expectWindow(main(), QAccessible::Window, "Quillet Manager");
     expectWindow(app->configDialog(), QAccessible::Dialog, "Quillet - Configure");
@@ -69,10 +55,11 @@ TEST_F(AccessibilityGui, EveryWindowIsAFrameOrADialogNamedByItsTitle)
         app->form1().mnucopyright_Click();
     });
     expectWindow(main()->findChild<QWidget*>("About"), QAccessible::Dialog, "About Quillet");
+    EXPECT_TRUE(text("Label1", main()->findChild<QWidget*>("About")).contains("Quillet Manager 2.0"));
     expectWindow(main()->findChild<QWidget*>("Form2"), QAccessible::Dialog, "Quillet - Terms of use");
 
     for (int i = 0; i < static_cast<int>(std::size(kForms)); ++i) {
-        QWidget* form = open(i);
+        QWidget* form = adjust(i);
         expectWindow(form, QAccessible::Window, kForms[i].caption);
         if (form)
             form->close();
@@ -89,11 +76,8 @@ TEST_F(AccessibilityGui, EveryWindowIsAFrameOrADialogNamedByItsTitle)
     }
 }
 
-TEST_F(AccessibilityGui, EveryControlOfTheShellWindowsIsNamed)
+TEST_F(AccessibilityGui, ControlsAreNamedAfterTheirLabelsAndAHotSpotTellsItsLoad)
 {
-    EXPECT_EQ(unnamedControls(main()), QStringList());
-    EXPECT_EQ(unnamedControls(app->configDialog()), QStringList());
-
     EXPECT_EQ(accessibleLabel(find<QWidget>(main(), "Combo1")), "Select Aircraft");
     EXPECT_EQ(accessibleLabel(find<QWidget>(app->configDialog(), "Combo2")), "Avaliable Aircraft");
     QWidget* picture = find<QWidget>(main(), "PicDHC");
@@ -103,24 +87,14 @@ TEST_F(AccessibilityGui, EveryControlOfTheShellWindowsIsNamed)
     EXPECT_EQ(accessibleLabel(find<QWidget>(app->configDialog(), "simdir")),
               "Current Directory of Flight Simulator");
     EXPECT_EQ(accessibleName(find<QWidget>(app->configDialog(), "Check2")), "Simulator directory confirmed");
-}
 
-TEST_F(AccessibilityGui, EveryControlOfTheLoadFormsIsNamedAndAHotSpotTellsItsLoad)
-{
-    for (int i = 0; i < static_cast<int>(std::size(kForms)); ++i) {
-        SCOPED_TRACE(kForms[i].form);
-        QWidget* form = open(i);
-        ASSERT_NE(form, nullptr);
-        EXPECT_EQ(unnamedControls(form), QStringList());
-        form->close();
-    }
-
-    QWidget* beech = open(0);
+    QWidget* beech = adjust(0);
     QWidget* cabin = find<QWidget>(beech, "Picture1");
     EXPECT_EQ(accessibleRole(cabin), QAccessible::Graphic);
     EXPECT_EQ(accessibleName(cabin), "Cabin of the Beech 1900D");
     EXPECT_EQ(accessibleName(find<QWidget>(beech, "Picture2")), "Photograph of the Beech 1900D");
     EXPECT_EQ(accessibleName(find<QWidget>(beech, "Picture4")), "Longitudinal Balance");
+    EXPECT_EQ(accessibleName(find<QWidget>(beech, "Picture3")), "Lateral Balance");
 
     QWidget* seat = find<QWidget>(beech, "location(3)");
     QAccessibleInterface* announced = QAccessible::queryAccessibleInterface(seat);

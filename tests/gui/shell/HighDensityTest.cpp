@@ -1,11 +1,6 @@
 // Run by CTest a second time with QT_SCALE_FACTOR=2 (test "gui_at_200_percent"); at 100 % it is skipped.
 #include "GuiFixture.h"
-#include "jets/Boeing.h"
-#include "platform/PictureBox.h"
-#include "platform/QtCanvas.h"
-#include "shell/LoadFormWindow.h"
 
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTest>
@@ -13,27 +8,25 @@
 namespace quillet {
 namespace {
 
+// The B737-300's form opened with "Adjust" on a screen at 200 %.
 class HighDensity : public GuiFixture {
 protected:
     void SetUp() override
     {
         if (qApp->devicePixelRatio() != 2.0)
             GTEST_SKIP() << "needs QT_SCALE_FACTOR=2";
-        dir.makeSimulator();
-        dir.makeAircraft("b737");
-        dir.writeIni(dir.sim(), {"B737-300,b737"});
+        startWith({"B737-300"});
+        window = adjust();
+        ASSERT_NE(window, nullptr);
     }
+
+    QMainWindow* window = nullptr;
 };
 
 TEST_F(HighDensity, TheDeckIsDrawnSharpAndClicksLandOnTheSameSeats)
 {
-    start();
-    QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
-    QMainWindow* window = app->window("Boeing");
-    ASSERT_NE(window, nullptr);
-    auto& form = static_cast<Boeing&>(*app->forms().existing("Boeing"));
-    const QImage& deck = dynamic_cast<QtCanvas&>(form.Picture1()).image();
     auto* decks = find<PictureBox>(window, "Picture1");
+    const QImage deck = decks->canvas()->image();
     EXPECT_EQ(deck.size(), decks->size() * 2);
 
     // Down the column through seat 1A, the first black run (the cabin wall) is one image pixel thick.
@@ -49,16 +42,12 @@ TEST_F(HighDensity, TheDeckIsDrawnSharpAndClicksLandOnTheSameSeats)
     QTest::mouseClick(decks, Qt::LeftButton, {}, QPoint(203, 57));
     ASSERT_EQ(prompt.asked().size(), 1u);
     EXPECT_EQ(prompt.asked()[0].prompt, "Passenger 1A weight in lbs");
-    EXPECT_EQ(find<QLabel>(window, "lblpass")->text(), "Passengers  1 / 128");
-    EXPECT_TRUE(coloursIn(deck, 2 * 202, 2 * 56, 2 * 204, 2 * 58).count(0x00FF00));
+    EXPECT_EQ(text("lblpass", window), "Passengers  1 / 128");
+    EXPECT_TRUE(colours(window, "Picture1", 2 * 202, 2 * 56, 2 * 204, 2 * 58).count(0x00FF00));
 }
 
 TEST_F(HighDensity, AFormLargerThanTheScreenScrollsWithItsTitleBarOnTheScreen)
 {
-    start();
-    QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
-    QMainWindow* window = app->window("Boeing");
-    ASSERT_NE(window, nullptr);
     const QRect available = window->screen()->availableGeometry();
     ASSERT_LT(available.width(), 654) << "the offscreen screen is 400 x 300 at 200 %";
     EXPECT_NE(qobject_cast<QScrollArea*>(window->centralWidget()), nullptr);

@@ -3,12 +3,11 @@
 
 #include "AccessibilityCheck.h"
 #include "GuiFixture.h"
-#include "shell/LoadFormWindow.h"
 
-#include <QAction>
 #include <QTest>
 #include <algorithm>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace quillet {
@@ -33,15 +32,13 @@ const KeyboardForm kKeyboardForms[] = {
     {"DC-10-30F", "DC10F", "Picture1", "\"Pilot\",70,-2,0,170", "\"Container C5R\",-51.142,2.604,0,1000"},
 };
 
+// The form of the type opened with "Adjust" and made the active window.
 class KeyboardLoad : public GuiFixture {
 protected:
-    LoadFormWindow* open(const std::string& type, const char* form)
+    LoadFormWindow* open(const std::string& type)
     {
-        dir.makeAircraft("plane");
-        dir.writeIni(dir.sim(), {type + ",plane"});
-        start();
-        app->handle([&] { app->form1().Command2_Click(); });
-        LoadFormWindow* window = app->window(form);
+        startWith({type});
+        LoadFormWindow* window = adjust();
         if (window) {
             window->activateWindow();
             EXPECT_TRUE(QTest::qWaitForWindowActive(window));
@@ -55,7 +52,7 @@ class KeyboardLoadEveryForm : public KeyboardLoad, public ::testing::WithParamIn
 TEST_P(KeyboardLoadEveryForm, TabReachesTheCabinAndEnterLoadsTheFirstPersonAndTheLastHold)
 {
     const KeyboardForm& kind = GetParam();
-    LoadFormWindow* window = open(kind.type, kind.form);
+    LoadFormWindow* window = open(kind.type);
     ASSERT_NE(window, nullptr);
     QWidget* picture = find<QWidget>(window, kind.picture);
     for (int tabs = 0; tabs < 20 && QApplication::focusWidget() != picture; ++tabs)
@@ -71,7 +68,7 @@ TEST_P(KeyboardLoadEveryForm, TabReachesTheCabinAndEnterLoadsTheFirstPersonAndTh
     prompt.answer("1000");
     QTest::keyClick(picture, Qt::Key_End);
     QTest::keyClick(picture, Qt::Key_Space);
-    EXPECT_EQ(find<QLabel>(window, "lblpax")->text(), "PAX weight =  1170 lb.");
+    EXPECT_EQ(text("lblpax", window), "PAX weight =  1170 lb.");
 
     window->findChild<QAction*>("mnusave")->trigger();
     const std::string stations = dir.read(std::string(kind.type) + ".cfg");
@@ -87,22 +84,16 @@ std::string formName(const ::testing::TestParamInfo<KeyboardForm>& info)
 INSTANTIATE_TEST_SUITE_P(EveryKind, KeyboardLoadEveryForm, ::testing::ValuesIn(kKeyboardForms), formName);
 
 // What the accessibility bus is told: the object, the kind of change and the child it concerns.
-struct Told {
-    QObject* object;
-    QAccessible::Event type;
-    int child;
-    bool operator==(const Told&) const = default;
-};
-std::vector<Told> g_told;
+std::vector<std::tuple<QObject*, QAccessible::Event, int>> g_told;
 
 void record(QAccessibleEvent* event)
 {
-    g_told.push_back({event->object(), event->type(), event->child()});
+    g_told.emplace_back(event->object(), event->type(), event->child());
 }
 
-bool wasTold(const Told& told)
+bool wasTold(QObject* object, QAccessible::Event type, int child)
 {
-    return std::find(g_told.begin(), g_told.end(), told) != g_told.end();
+    return std::find(g_told.begin(), g_told.end(), std::tuple(object, type, child)) != g_told.end();
 }
 
 // The index of the station a screen reader names so, or -1.
@@ -117,7 +108,7 @@ int childNamed(QAccessibleInterface* picture, const QString& name)
 
 TEST_F(KeyboardLoad, AScreenReaderReadsTheDecksStationByStationAndPressesOne)
 {
-    LoadFormWindow* window = open("B737-300", "Boeing");
+    LoadFormWindow* window = open("B737-300");
     ASSERT_NE(window, nullptr);
     QWidget* decks = find<QWidget>(window, "Picture1");
     QAccessibleInterface* picture = QAccessible::queryAccessibleInterface(decks);
@@ -146,13 +137,12 @@ TEST_F(KeyboardLoad, AScreenReaderReadsTheDecksStationByStationAndPressesOne)
     actions->doAction(QAccessibleActionInterface::pressAction());
     QAccessible::installUpdateHandler(before);
     EXPECT_EQ(station->text(QAccessible::Name), "Passenger 12C, 170 lb");
-    EXPECT_EQ(find<QLabel>(window, "lblpax")->text(), "PAX weight =  170 lb.");
+    EXPECT_EQ(text("lblpax", window), "PAX weight =  170 lb.");
     // Qt hands events on only while a platform accessibility bridge is active, which the offscreen
     // platform never has; where one is, the bus hears the station's new load and the new total.
     if (QAccessible::isActive()) {
-        EXPECT_TRUE(wasTold({decks, QAccessible::NameChanged, seat})) << "the station's new load";
-        EXPECT_TRUE(wasTold({find<QLabel>(window, "lbltot"), QAccessible::NameChanged, -1}))
-            << "the new total";
+        EXPECT_TRUE(wasTold(decks, QAccessible::NameChanged, seat)) << "the station's new load";
+        EXPECT_TRUE(wasTold(find<QLabel>(window, "lbltot"), QAccessible::NameChanged, -1)) << "the new total";
     }
     ASSERT_EQ(prompt.asked().size(), 1u);
     EXPECT_EQ(prompt.asked()[0].prompt, "Passenger 12C weight in lbs");

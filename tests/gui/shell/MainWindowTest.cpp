@@ -163,16 +163,5 @@ TEST_F(MainWindowGui, ConverterAnswersWhatIsTyped)
     EXPECT_EQ(text("Labelkg"), "100");
 }
 
-TEST_F(MainWindowGui, AboutMenusShowFixedText)
-{
-    dir.writeIni(dir.sim(), {});
-    start();
-    app->handle([this] { app->form1().munver_Click(); });
-    auto* about = main()->findChild<QWidget*>("About");
-    ASSERT_NE(about, nullptr);
-    EXPECT_TRUE(about->isVisible());
-    EXPECT_TRUE(find<QLabel>(about, "Label1")->text().contains("Quillet Manager 2.0"));
-}
-
 } // namespace
 } // namespace quillet

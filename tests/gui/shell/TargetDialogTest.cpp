@@ -1,11 +1,8 @@
 #include "shell/TargetDialog.h"
 
 #include "GuiFixture.h"
-#include "shell/LoadFormWindow.h"
 
-#include <QAction>
 #include <QDialogButtonBox>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
@@ -17,12 +14,8 @@ class TargetDialogGui : public GuiFixture {
 protected:
     void SetUp() override
     {
-        dir.makeSimulator();
-        dir.makeAircraft("b737", "aircraft.cfg", "[fltsim.0]\r\ntitle=737\r\n\r\n[WEIGHT_AND_BALANCE]\r\n");
-        dir.writeIni(dir.sim(), {"B737-300,b737"});
-        start();
-        QTest::mouseClick(find<QPushButton>(main(), "Command2"), Qt::LeftButton);
-        window = app->window("Boeing");
+        startWith({"B737-300"});
+        window = adjust();
         ASSERT_NE(window, nullptr);
     }
 
@@ -51,8 +44,6 @@ protected:
         QTest::keyClicks(field, text);
     }
 
-    QString label(const char* name) const { return find<QLabel>(window, name)->text(); }
-
     QMainWindow* window = nullptr;
 };
 
@@ -72,8 +63,8 @@ TEST_F(TargetDialogGui, SeatsAndStowsTheTypedLoadByKeyboard)
     QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
     QApplication::processEvents();
 
-    EXPECT_EQ(label("lblpass"), "Passengers  100 / 128");
-    EXPECT_EQ(label("lblpax"), "PAX weight =  22000 lb.");
+    EXPECT_EQ(text("lblpass", window), "Passengers  100 / 128");
+    EXPECT_EQ(text("lblpax", window), "PAX weight =  22000 lb.");
     EXPECT_FALSE(find<QLabel>(window, "warning")->isVisible());
 }
 
@@ -93,8 +84,8 @@ TEST_F(TargetDialogGui, RefusesAZeroFuelWeightAboveTheMaximumAndCancelChangesNot
 
     QTest::keyClick(dialog->focusWidget(), Qt::Key_Escape);
     QApplication::processEvents();
-    EXPECT_EQ(label("lblpass"), "Passengers  0 / 128");
-    EXPECT_EQ(label("lblpax"), "PAX weight =  0 lb.");
+    EXPECT_EQ(text("lblpass", window), "Passengers  0 / 128");
+    EXPECT_EQ(text("lblpax", window), "PAX weight =  0 lb.");
 }
 
 } // namespace
