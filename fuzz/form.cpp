@@ -14,9 +14,15 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    quillet::MemoryFileSystem disk;
-    quillet::ByteChoices choices({data, size});
-    quillet::FormDriver driver("/quillet", quillet::Files(disk), choices);
+    // One driver serves every input, as start-up takes longer than most runs: each starts from the
+    // files as made and the program as started.
+    static quillet::MemoryFileSystem disk;
+    static quillet::ByteChoices choices;
+    static quillet::FormDriver driver("/quillet", quillet::Files(disk), choices);
+    static const quillet::MemoryFileSystem madeFiles = disk;
+    disk = madeFiles;
+    driver.restart();
+    choices.reset({data, size});
     while (!choices.done() && driver.broken().empty())
         driver.step();
     if (!driver.broken().empty())

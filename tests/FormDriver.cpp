@@ -38,18 +38,20 @@ std::string cfgOf(std::string_view type)
     return text;
 }
 
-// The program's recording canvas, except that a clear forgets what it wipes out: a long run would
-// otherwise keep every drawing it ever made.
-class ForgetfulCanvas final : public RecordingCanvas {
+// The recording canvas's measures, but nothing kept: no promise the driver checks is drawn, and a
+// long run would otherwise keep every drawing it ever made.
+class BlankCanvas final : public RecordingCanvas {
 public:
     using RecordingCanvas::RecordingCanvas;
 
 protected:
-    void doClear() override
-    {
-        forget();
-        RecordingCanvas::doClear();
-    }
+    void doClear() override {}
+    void doKeepAsBackground() override {}
+    void doLine(double, double, double, double, Rgb) override {}
+    void doBox(double, double, double, double, Rgb) override {}
+    void doCircle(double, double, double, Rgb) override {}
+    void doFloodFill(int, int) override {}
+    void doText(double, double, std::string_view) override {}
 };
 
 void makeFolder(const Files& files, const fs::path& folder)
@@ -82,7 +84,7 @@ FormDriver::FormDriver(const fs::path& folder, Files files, Choices& choices)
 {
     session.files = files;
     session.makeCanvas = [](double width, double height) {
-        return std::make_unique<ForgetfulCanvas>(width, height);
+        return std::make_unique<BlankCanvas>(width, height);
     };
     session.state.simfolder = (folder / "sim").string();
     std::string ini = session.state.simfolder + "\r\n" + std::to_string(kAircraftTypes.size()) + "\r\n";
@@ -95,15 +97,34 @@ FormDriver::FormDriver(const fs::path& folder, Files files, Choices& choices)
     }
     write(files, folder / "sim/fs2000.exe", "placeholder");
     write(files, folder / "quillet.ini", ini);
-
-    registerRegionalForms(m_forms);
-    registerJetForms(m_forms);
-    registerFreighterForms(m_forms);
-    m_form1 = std::make_unique<Form1>(session, m_forms);
+    m_startState = session.state;
     session.currentType = [this] { return m_form1->Combo1.text(); };
+    startUp();
+}
+
+void FormDriver::startUp()
+{
+    m_form1.reset();
+    m_forms = std::make_unique<FormRegistry>();
+    registerRegionalForms(*m_forms);
+    registerJetForms(*m_forms);
+    registerFreighterForms(*m_forms);
+    m_form1 = std::make_unique<Form1>(session, *m_forms);
     m_form1->Form_Load();
     session.messages.take();
     checkLoad("start-up");
+}
+
+void FormDriver::restart()
+{
+    m_form1.reset();
+    m_forms.reset();
+    session.state = m_startState;
+    m_broken.clear();
+    m_peak = 1;
+    m_saves = 0;
+    m_refused = 0;
+    startUp();
 }
 
 void FormDriver::fail(const std::string& what)

@@ -31,7 +31,12 @@ public:
 // Two bytes per choice; zeros once the bytes run out.
 class ByteChoices final : public Choices {
 public:
-    explicit ByteChoices(std::span<const std::uint8_t> bytes) : m_bytes(bytes) {}
+    explicit ByteChoices(std::span<const std::uint8_t> bytes = {}) : m_bytes(bytes) {}
+    void reset(std::span<const std::uint8_t> bytes)
+    {
+        m_bytes = bytes;
+        m_at = 0;
+    }
     bool done() const { return m_at >= m_bytes.size(); }
     std::uint32_t next() override
     {
@@ -71,6 +76,9 @@ public:
     void step();
     // Reads every type's files back; call at the end.
     void readEveryType();
+    // Back to just after start-up, every form closed, for a run of its own; the files are the
+    // caller's to put back.
+    void restart();
 
     // The first broken promise, or empty.
     const std::string& broken() const { return m_broken; }
@@ -105,7 +113,10 @@ private:
     void save(LoadForm& form);
     void click(LoadForm& form, bool move);
 
-    FormRegistry m_forms;
+    void startUp();
+
+    LoadState m_startState; // the state before start-up
+    std::unique_ptr<FormRegistry> m_forms;
     std::unique_ptr<Form1> m_form1;
     std::string m_broken;
     float m_peak = 1; // the largest total the run has held
