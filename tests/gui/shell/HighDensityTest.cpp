@@ -3,7 +3,6 @@
 
 #include <QScreen>
 #include <QScrollArea>
-#include <QTest>
 
 namespace quillet {
 namespace {
@@ -15,8 +14,7 @@ protected:
     {
         if (qApp->devicePixelRatio() != 2.0)
             GTEST_SKIP() << "needs QT_SCALE_FACTOR=2";
-        startWith({"B737-300"});
-        window = adjust();
+        window = open("B737-300");
         ASSERT_NE(window, nullptr);
     }
 
@@ -43,7 +41,7 @@ TEST_F(HighDensity, TheDeckIsDrawnSharpAndClicksLandOnTheSameSeats)
     ASSERT_EQ(prompt.asked().size(), 1u);
     EXPECT_EQ(prompt.asked()[0].prompt, "Passenger 1A weight in lbs");
     EXPECT_EQ(text("lblpass", window), "Passengers  1 / 128");
-    EXPECT_TRUE(colours(window, "Picture1", 2 * 202, 2 * 56, 2 * 204, 2 * 58).count(0x00FF00));
+    EXPECT_TRUE(deck(window, 2 * 202, 2 * 56, 2 * 204, 2 * 58).count(0x00FF00));
 }
 
 TEST_F(HighDensity, AFormLargerThanTheScreenScrollsWithItsTitleBarOnTheScreen)
