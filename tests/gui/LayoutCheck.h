@@ -23,10 +23,7 @@ namespace quillet::layout {
 
 // The designed place of a control in twips, inside its window's client area or its container.
 struct Twips {
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
+    int left = 0, top = 0, width = 0, height = 0;
 };
 
 struct Font {
@@ -45,16 +42,14 @@ struct Control {
 };
 
 struct MenuEntry {
-    const char* name;
-    const char* caption;
+    const char *name, *caption;
 };
 
 // A window or frame as designed, read from its layout file under tests/data, which was checked by
 // hand against the design's tables.
 struct Design {
     std::string caption;
-    int clientWidth = 0;
-    int clientHeight = 0;
+    int clientWidth = 0, clientHeight = 0;
     std::string cabin;
     std::vector<Control> controls;
     std::optional<std::array<int, 4>> rule; // Line1, from (x1, y1) to (x2, y2)

@@ -243,23 +243,20 @@ TEST(PlanSeating, FillsRowsTogetherAndPairsAcrossTheAisle)
         ASSERT_TRUE(plan) << plan.error().message;
         EXPECT_TRUE(plan->cg.inBalance);
         std::map<float, std::pair<int, int>> rows; // x: seats taken, seats
-        int left = 0;
-        int right = 0;
+        int sides[2] = {0, 0};                     // taken left, right of the aisle
         for (const auto& [station, weight] : plan->weights) {
-            if (station >= state.nstations - state.ncrew)
-                continue;
-            auto& [taken, seats] = rows[state.stationx[station]];
-            ++seats;
-            if (weight > 0) {
-                ++taken;
-                (state.stationy[station] < 0 ? left : right) += 1;
+            if (station < state.nstations - state.ncrew) {
+                auto& [taken, seats] = rows[state.stationx[station]];
+                ++seats;
+                taken += weight > 0;
+                sides[state.stationy[station] >= 0] += weight > 0;
             }
         }
         const auto partial = std::count_if(rows.begin(), rows.end(), [](const auto& row) {
             return row.second.first > 0 && row.second.first < row.second.second;
         });
         EXPECT_LE(partial, 2) << passengers;
-        EXPECT_LE(std::abs(left - right), 1) << passengers;
+        EXPECT_LE(std::abs(sides[0] - sides[1]), 1) << passengers;
     }
 }
 

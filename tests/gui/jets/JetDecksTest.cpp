@@ -15,19 +15,15 @@ struct FeetRect {
     double halfWidth = 4; // a hold's
 };
 
-// Where a type's decks are drawn: the main-deck origin, the lower deck's centre line, twips per foot.
-struct Origins {
-    double x0, y0, lowerOrigin, scale;
-};
-
-// One type's published geometry: its fuselage, its two holds, and the x of a point on the cabin's
+// One type's published geometry: where its decks are drawn (the main-deck origin, the lower deck's
+// centre line, twips per foot), its fuselage, its two holds, and the x of a point on the cabin's
 // centre line clear of seats, containers and fittings.
 struct DeckCase {
     const char* type;
-    Origins at;
-    FeetRect fuselage;
-    FeetRect forwardHold;
-    FeetRect aftHold;
+    struct {
+        double x0, y0, lowerOrigin, scale;
+    } at;
+    FeetRect fuselage, forwardHold, aftHold;
     double cabinX = 0;
 };
 
