@@ -18,6 +18,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTest>
 #include <QWidget>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -28,16 +29,8 @@
 
 namespace quillet {
 
-// The colours found in a pixel rectangle of a picture, edges included.
-inline std::set<QRgb> coloursIn(const QImage& image, int left, int top, int right, int bottom)
-{
-    std::set<QRgb> found;
-    for (int y = top; y <= bottom; ++y) {
-        for (int x = left; x <= right; ++x)
-            found.insert(image.pixel(x, y) & 0xFFFFFF);
-    }
-    return found;
-}
+constexpr QRgb kGreenPixel = 0x00FF00;
+constexpr QRgb kRedPixel = 0xFF0000;
 
 // A window's title as the desktop shows it: "[*]" becomes "*" while the window is modified.
 inline QString shownTitle(const QWidget* window)
@@ -97,13 +90,31 @@ protected:
         return app->window(std::string(findAircraftType(app->form1().Combo1.text())->form));
     }
 
+    // The type alone in the aircraft list, its form opened with "Adjust" and made the active window.
+    LoadFormWindow* open(const std::string& type, const std::string& cfg = "[fltsim.0]\r\ntitle=test\r\n")
+    {
+        startWith({type}, cfg);
+        LoadFormWindow* window = adjust();
+        EXPECT_NE(window, nullptr) << type;
+        if (window) {
+            window->activateWindow();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        }
+        return window;
+    }
+
     QMainWindow* main() const { return app->mainWindow(); }
 
-    // The colours drawn in a pixel rectangle of a window's picture box.
-    std::set<QRgb> colours(QWidget* window, const char* picture, int left, int top, int right,
-                           int bottom) const
+    // The colours drawn in a pixel rectangle of a window's decks, edges included.
+    std::set<QRgb> deck(QWidget* window, int left, int top, int right, int bottom) const
     {
-        return coloursIn(find<PictureBox>(window, picture)->canvas()->image(), left, top, right, bottom);
+        const QImage image = find<PictureBox>(window, "Picture1")->canvas()->image();
+        std::set<QRgb> found;
+        for (int y = top; y <= bottom; ++y) {
+            for (int x = left; x <= right; ++x)
+                found.insert(image.pixel(x, y) & 0xFFFFFF);
+        }
+        return found;
     }
 
     template <class T>

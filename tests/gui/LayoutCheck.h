@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QGroupBox>
+#include <array>
 #include <cctype>
 #include <cmath>
 #include <deque>
@@ -22,10 +23,7 @@ namespace quillet::layout {
 
 // The designed place of a control in twips, inside its window's client area or its container.
 struct Twips {
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
+    int left = 0, top = 0, width = 0, height = 0;
 };
 
 struct Font {
@@ -43,26 +41,18 @@ struct Control {
     std::optional<Font> font = std::nullopt;
 };
 
-// A straight line from (x1, y1) to (x2, y2), in twips.
-struct Line {
-    const char* name;
-    int x1, y1, x2, y2;
-};
-
 struct MenuEntry {
-    const char* name;
-    const char* caption;
+    const char *name, *caption;
 };
 
 // A window or frame as designed, read from its layout file under tests/data, which was checked by
 // hand against the design's tables.
 struct Design {
     std::string caption;
-    int clientWidth = 0;
-    int clientHeight = 0;
+    int clientWidth = 0, clientHeight = 0;
     std::string cabin;
     std::vector<Control> controls;
-    std::optional<Line> rule;
+    std::optional<std::array<int, 4>> rule; // Line1, from (x1, y1) to (x2, y2)
     std::vector<MenuEntry> menus;
     std::vector<Control> stations; // hot spot `location(i)` and marker `Shape1(i)` of each station
     std::deque<std::string> text;  // what the entries above point into
@@ -110,7 +100,7 @@ inline Design readDesign(const std::string& file)
             design.clientWidth = n.at(0);
             design.clientHeight = n.at(1);
         } else if (kind == "Line1") {
-            design.rule = Line{"Line1", n.at(0), n.at(1), n.at(2), n.at(3)};
+            design.rule = {n.at(0), n.at(1), n.at(2), n.at(3)};
         } else if (kind.starts_with("mnu") || kind.starts_with("mun")) {
             design.menus.push_back({keep(kind), keep(caption)});
         } else if (!name.empty()) {
@@ -185,19 +175,6 @@ inline void expectControls(const QWidget* container, const std::vector<Control>&
     }
 }
 
-// A line is one pixel high, from its left end to its right end inclusive.
-inline void expectLine(const QWidget* container, const Line& line)
-{
-    SCOPED_TRACE(line.name);
-    const auto* widget =
-        container->findChild<QWidget*>(QString::fromLatin1(line.name), Qt::FindDirectChildrenOnly);
-    ASSERT_NE(widget, nullptr);
-    ASSERT_EQ(line.y1, line.y2) << "only level lines are drawn";
-    const int left = pixels(std::min(line.x1, line.x2));
-    const int right = pixels(std::max(line.x1, line.x2));
-    EXPECT_EQ(widget->geometry(), QRect(left, pixels(line.y1), right - left + 1, 1));
-}
-
 // Menus and their items, with their captions (the & marks the access key).
 inline void expectMenus(const QWidget* window, const std::vector<MenuEntry>& entries)
 {
@@ -218,8 +195,14 @@ inline void expectDesign(const QWidget* window, const QWidget* client, const Des
     EXPECT_EQ(shownTitle(window), QString::fromStdString(design.caption));
     EXPECT_EQ(client->size(), QSize(pixels(design.clientWidth), pixels(design.clientHeight)));
     expectControls(client, design.controls, grows);
-    if (design.rule)
-        expectLine(client, *design.rule);
+    if (design.rule) { // a level line, one pixel high, both ends included
+        const auto [x1, y1, x2, y2] = *design.rule;
+        ASSERT_EQ(y1, y2);
+        const int left = pixels(std::min(x1, x2));
+        const QWidget* line = client->findChild<QWidget*>("Line1", Qt::FindDirectChildrenOnly);
+        ASSERT_NE(line, nullptr);
+        EXPECT_EQ(line->geometry(), QRect(left, pixels(y1), pixels(std::max(x1, x2)) - left + 1, 1));
+    }
     expectMenus(window, design.menus);
 }
 

@@ -77,28 +77,16 @@ TEST_P(CentreOfGravityWords, SayWhichWayHowFarAndWhereInTheBand)
     EXPECT_EQ(acrossText(GetParam().cg), GetParam().across);
 }
 
-CentreOfGravity cg(double x, double bandX, double percentX, double y, double bandY, double percentY)
-{
-    CentreOfGravity result;
-    result.x = x;
-    result.bandX = bandX;
-    result.percentX = percentX;
-    result.y = y;
-    result.bandY = bandY;
-    result.percentY = percentY;
-    return result;
-}
-
 INSTANTIATE_TEST_SUITE_P(
     Axes, CentreOfGravityWords,
     ::testing::Values(
-        AxisCase{cg(1.3, 2.1, -61.9, -0.5, 0.4, -125),
+        AxisCase{{.x = 1.3, .y = -0.5, .bandX = 2.1, .bandY = 0.4, .percentX = -61.9, .percentY = -125},
                  "Centre of gravity 1.3 ft forward of the empty aircraft's (allowed: 2.1 ft either way), 62 "
                  "% of the band",
                  "Centre of gravity 0.5 ft left of the empty aircraft's (allowed: 0.4 ft either way), 125 % "
                  "of the band"},
         AxisCase{
-            cg(-0.26, 1.4, 18.6, 0.04, 0.2, 20),
+            {.x = -0.26, .y = 0.04, .bandX = 1.4, .bandY = 0.2, .percentX = 18.6, .percentY = 20},
             "Centre of gravity 0.3 ft aft of the empty aircraft's (allowed: 1.4 ft either way), 19 % of the "
             "band",
             "Centre of gravity at the empty aircraft's (allowed: 0.2 ft either way), 20 % of the band"}));

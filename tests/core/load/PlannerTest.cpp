@@ -47,16 +47,6 @@ public:
     StationGroups groups;
 };
 
-PlanRequest planRequest(int passengers, std::optional<float> cargo,
-                        std::optional<float> zeroFuelWeight = std::nullopt)
-{
-    PlanRequest request;
-    request.passengers = passengers;
-    request.cargo = cargo;
-    request.zeroFuelWeight = zeroFuelWeight;
-    return request;
-}
-
 std::vector<int> stationsOf(const StationGroups& groups, StationRole role)
 {
     std::vector<int> stations;
@@ -174,22 +164,10 @@ void expectMeets(TypeRig& rig, const Plan& plan, int passengers, double cargo, c
     EXPECT_EQ(state.loadweight,
               std::accumulate(state.stationweight.begin(), state.stationweight.end(), 0.0f));
     EXPECT_LE(state.emptyweight + state.loadweight, state.maxzerofuel);
-    // The forms' own checks mark any station above its maximum or in a zone above its limit.
+    // The forms' own checks (their tests' business) mark any station above its maximum or in a zone
+    // above its limit.
     for (int i = 0; i < state.stationsInUse(); ++i)
         EXPECT_EQ(state.stationmsg[i], "") << state.stationname[i];
-    for (const StationGroup& group : rig.groups) {
-        double sum = 0;
-        for (int station : group.stations) {
-            sum += state.stationweight[station];
-            if (group.stationLimits && group.role == StationRole::Cargo) {
-                EXPECT_LE(state.stationweight[station], state.stationmax[station])
-                    << state.stationname[station];
-            }
-        }
-        if (group.limit > 0) {
-            EXPECT_LE(sum, group.limit) << group.name;
-        }
-    }
     EXPECT_EQ(rig.form->summaryLabels().warning.visible, !plan.cg.inBalance)
         << rig.form->summaryLabels().warning.text;
 }
@@ -201,10 +179,10 @@ std::string testName(const ::testing::TestParamInfo<AircraftType>& info)
 
 class PlanOnEveryType : public ::testing::TestWithParam<AircraftType> {};
 
-TEST_P(PlanOnEveryType, GroupsHoldEveryStationOnce)
+TEST_P(PlanOnEveryType, MeetsTheRequestWithinEveryLimitAndBalancesWhenAnyArrangementDoes)
 {
     TypeRig rig{std::string(GetParam().type)};
-    std::vector<int> seen;
+    std::vector<int> seen; // the groups hold every station once
     for (const StationGroup& group : rig.groups) {
         EXPECT_FALSE(group.name.empty());
         seen.insert(seen.end(), group.stations.begin(), group.stations.end());
@@ -213,11 +191,7 @@ TEST_P(PlanOnEveryType, GroupsHoldEveryStationOnce)
     std::vector<int> all(static_cast<std::size_t>(rig.state().stationsInUse()));
     std::iota(all.begin(), all.end(), 0);
     EXPECT_EQ(seen, all);
-}
 
-TEST_P(PlanOnEveryType, MeetsTheRequestWithinEveryLimitAndBalancesWhenAnyArrangementDoes)
-{
-    TypeRig rig{std::string(GetParam().type)};
     const PlanBounds bounds = planBounds(rig.state(), rig.groups);
     std::vector<PlanRequest> requests;
     for (int p = 0; p <= 10; ++p) {
@@ -225,8 +199,9 @@ TEST_P(PlanOnEveryType, MeetsTheRequestWithinEveryLimitAndBalancesWhenAnyArrange
         const double room = std::min<double>(
             bounds.maxCargo, std::floor(bounds.maxZeroFuel - bounds.fixedWeight - 170.0 * passengers));
         for (int c = 0; c <= 10 && room >= 0; ++c)
-            requests.push_back(planRequest(passengers, static_cast<float>(std::floor(room * c / 10))));
-        requests.push_back(planRequest(passengers, std::nullopt, bounds.maxZeroFuel - p * 100.0f));
+            requests.push_back(
+                {.passengers = passengers, .cargo = static_cast<float>(std::floor(room * c / 10))});
+        requests.push_back({.passengers = passengers, .zeroFuelWeight = bounds.maxZeroFuel - p * 100.0f});
     }
 
     int balanced = 0;
@@ -264,34 +239,31 @@ TEST(PlanSeating, FillsRowsTogetherAndPairsAcrossTheAisle)
     TypeRig rig{"B737-300"};
     const LoadState& state = rig.state();
     for (int passengers : {24, 60, 97}) {
-        const Result<Plan> plan = planLoad(state, rig.groups, planRequest(passengers, 3000));
+        const Result<Plan> plan = planLoad(state, rig.groups, {.passengers = passengers, .cargo = 3000});
         ASSERT_TRUE(plan) << plan.error().message;
         EXPECT_TRUE(plan->cg.inBalance);
         std::map<float, std::pair<int, int>> rows; // x: seats taken, seats
-        int left = 0;
-        int right = 0;
+        int sides[2] = {0, 0};                     // taken left, right of the aisle
         for (const auto& [station, weight] : plan->weights) {
-            if (station >= state.nstations - state.ncrew)
-                continue;
-            auto& [taken, seats] = rows[state.stationx[station]];
-            ++seats;
-            if (weight > 0) {
-                ++taken;
-                (state.stationy[station] < 0 ? left : right) += 1;
+            if (station < state.nstations - state.ncrew) {
+                auto& [taken, seats] = rows[state.stationx[station]];
+                ++seats;
+                taken += weight > 0;
+                sides[state.stationy[station] >= 0] += weight > 0;
             }
         }
         const auto partial = std::count_if(rows.begin(), rows.end(), [](const auto& row) {
             return row.second.first > 0 && row.second.first < row.second.second;
         });
         EXPECT_LE(partial, 2) << passengers;
-        EXPECT_LE(std::abs(left - right), 1) << passengers;
+        EXPECT_LE(std::abs(sides[0] - sides[1]), 1) << passengers;
     }
 }
 
-// What the planner makes of one request. A full cabin (passengers -1) and no cargo leaves some types out
-// of balance, and the planner can only say so; given cargo, it balances those whose hold lies on the
-// right side of the balance. A request no load can meet is refused with the limit it breaks and by
-// how much.
+// What the planner makes of one request. A full cabin (passengers -1) balances on these types, on the
+// Beech and the MD-90 once cargo weighs down the tail; where nothing balances, the every-type test
+// holds the planner to saying so. A request no load can meet is refused with the limit it breaks and
+// by how much.
 struct Outcome {
     const char* type;
     int passengers;
@@ -309,7 +281,8 @@ TEST_P(PlanOutcome, BalancesOrNamesTheLimitAndTheExcess)
     TypeRig rig{o.type};
     const int passengers = o.passengers < 0 ? planBounds(rig.state(), rig.groups).seats : o.passengers;
     const Result<Plan> plan =
-        planLoad(rig.state(), rig.groups, planRequest(passengers, o.cargo, o.zeroFuelWeight));
+        planLoad(rig.state(), rig.groups,
+                 {.passengers = passengers, .cargo = o.cargo, .zeroFuelWeight = o.zeroFuelWeight});
     if (o.refusal) {
         ASSERT_FALSE(plan);
         EXPECT_EQ(plan.error().message, o.refusal);
@@ -323,11 +296,7 @@ TEST_P(PlanOutcome, BalancesOrNamesTheLimitAndTheExcess)
 // zero-fuel weight 33000 lb above it. The DC-10-30F's zone limits add up to 223000 lb, but its aft
 // lower hold's ten containers of 3476 lb carry only 34760 of that zone's 35000.
 const Outcome kOutcomes[] = {
-    Outcome{"Beech 1900D", -1, 0, std::nullopt, false},
     Outcome{"Beech 1900D", -1, 600, std::nullopt, true},
-    Outcome{"Empraer EMB_120", -1, 0, std::nullopt, false},
-    Outcome{"Empraer EMB_120", -1, 400, std::nullopt, false},
-    Outcome{"MD-90-30", -1, 0, std::nullopt, false},
     Outcome{"MD-90-30", -1, 6000, std::nullopt, true},
     Outcome{"B727-212ADV", -1, 0, std::nullopt, true},
     Outcome{"B727-212ADV", -1, 5000, std::nullopt, true},

@@ -1,7 +1,6 @@
 #include "GuiFixture.h"
 
 #include <QMouseEvent>
-#include <QTest>
 
 namespace quillet {
 namespace {
@@ -10,9 +9,8 @@ class CRJ200WindowGui : public GuiFixture {
 protected:
     void SetUp() override
     {
-        startWith({"CRJ-200ER"},
-                  "[fltsim.0]\r\ntitle=CRJ\r\n\r\n[WEIGHT_AND_BALANCE]\r\nempty_weight = 35000\r\n");
-        window = adjust();
+        window = open("CRJ-200ER",
+                      "[fltsim.0]\r\ntitle=CRJ\r\n\r\n[WEIGHT_AND_BALANCE]\r\nempty_weight = 35000\r\n");
         ASSERT_NE(window, nullptr);
     }
 
@@ -30,7 +28,7 @@ protected:
 };
 
 // Where the controls stand is the regional layout test's; here, what the window itself adds.
-TEST_F(CRJ200WindowGui, PressesAndMovesReachTheSeatMapAndThePresetsTheForm)
+TEST_F(CRJ200WindowGui, PressesAndMovesReachTheSeatMap)
 {
     EXPECT_EQ(seatMap()->accessibleName(), "Seat map");
     EXPECT_FALSE(find<PictureBox>(window, "Picture1")->picture().isNull());
@@ -63,13 +61,6 @@ TEST_F(CRJ200WindowGui, PressesAndMovesReachTheSeatMapAndThePresetsTheForm)
     ASSERT_EQ(prompt.asked().size(), 2u);
     EXPECT_EQ(prompt.asked()[1].title, "Cargo details");
     EXPECT_EQ(text("lblpax", window), "PAX weight =  1370 lb.");
-
-    find<QAction>(window, "mnuheav")->trigger();
-    const QString passengers = text("lblpass", window);
-    ASSERT_TRUE(passengers.startsWith("Passengers  ")) << passengers.toStdString();
-    const int count = passengers.mid(12).section(' ', 0, 0).toInt();
-    EXPECT_GE(count, 34);
-    EXPECT_LE(count, 50);
 }
 
 } // namespace

@@ -3,12 +3,7 @@
 
 #include "AccessibilityCheck.h"
 #include "GuiFixture.h"
-
-#include <QTest>
-#include <algorithm>
-#include <string>
-#include <tuple>
-#include <vector>
+#include "TypeName.h"
 
 namespace quillet {
 namespace {
@@ -17,37 +12,23 @@ namespace {
 // person and the last hold or container are loaded with 170 and 1000 lb.
 struct KeyboardForm {
     const char* type;
-    const char* form;
     const char* picture; // the cabin or decks
     const char* firstPerson;
     const char* lastCargo;
 };
 
 const KeyboardForm kKeyboardForms[] = {
-    {"Beech 1900D", "Beech", "Picture1", "\"Pilot\",13.5,-2,0,170", "\"Cargo\",-17,0,0,1000"},
-    {"Empraer EMB_120", "Emb120", "Picture2", "\"Pilot\",14,-2,0,170", "\"Cargo\",-22,0,0,1000"},
-    {"DHC-8-300", "DHC8", "Picture2", "\"Pilot\",26,-3,0,170", "\"Cargo\",-22,0,0,1000"},
-    {"CRJ-200ER", "CRJ200", "Picture2", "\"Pilot\",28,-1.55,0,170", "\"Cargo\",-20,0,0,1000"},
-    {"B737-300", "Boeing", "Picture1", "\"Pilot\",39,-2,0,170", "\"Lower Deck Cargo Aft\",-23.25,0,0,1000"},
-    {"DC-10-30F", "DC10F", "Picture1", "\"Pilot\",70,-2,0,170", "\"Container C5R\",-51.142,2.604,0,1000"},
+    {"Beech 1900D", "Picture1", "\"Pilot\",13.5,-2,0,170", "\"Cargo\",-17,0,0,1000"},
+    {"Empraer EMB_120", "Picture2", "\"Pilot\",14,-2,0,170", "\"Cargo\",-22,0,0,1000"},
+    {"DHC-8-300", "Picture2", "\"Pilot\",26,-3,0,170", "\"Cargo\",-22,0,0,1000"},
+    {"CRJ-200ER", "Picture2", "\"Pilot\",28,-1.55,0,170", "\"Cargo\",-20,0,0,1000"},
+    {"B737-300", "Picture1", "\"Pilot\",39,-2,0,170", "\"Lower Deck Cargo Aft\",-23.25,0,0,1000"},
+    {"DC-10-30F", "Picture1", "\"Pilot\",70,-2,0,170", "\"Container C5R\",-51.142,2.604,0,1000"},
 };
 
-// The form of the type opened with "Adjust" and made the active window.
-class KeyboardLoad : public GuiFixture {
-protected:
-    LoadFormWindow* open(const std::string& type)
-    {
-        startWith({type});
-        LoadFormWindow* window = adjust();
-        if (window) {
-            window->activateWindow();
-            EXPECT_TRUE(QTest::qWaitForWindowActive(window));
-        }
-        return window;
-    }
-};
+using KeyboardLoad = GuiFixture;
 
-class KeyboardLoadEveryForm : public KeyboardLoad, public ::testing::WithParamInterface<KeyboardForm> {};
+class KeyboardLoadEveryForm : public GuiFixture, public ::testing::WithParamInterface<KeyboardForm> {};
 
 TEST_P(KeyboardLoadEveryForm, TabReachesTheCabinAndEnterLoadsTheFirstPersonAndTheLastHold)
 {
@@ -76,25 +57,8 @@ TEST_P(KeyboardLoadEveryForm, TabReachesTheCabinAndEnterLoadsTheFirstPersonAndTh
     EXPECT_NE(stations.find(std::string(kind.lastCargo) + "\r\n"), std::string::npos) << stations;
 }
 
-std::string formName(const ::testing::TestParamInfo<KeyboardForm>& info)
-{
-    return info.param.form;
-}
-
-INSTANTIATE_TEST_SUITE_P(EveryKind, KeyboardLoadEveryForm, ::testing::ValuesIn(kKeyboardForms), formName);
-
-// What the accessibility bus is told: the object, the kind of change and the child it concerns.
-std::vector<std::tuple<QObject*, QAccessible::Event, int>> g_told;
-
-void record(QAccessibleEvent* event)
-{
-    g_told.emplace_back(event->object(), event->type(), event->child());
-}
-
-bool wasTold(QObject* object, QAccessible::Event type, int child)
-{
-    return std::find(g_told.begin(), g_told.end(), std::tuple(object, type, child)) != g_told.end();
-}
+INSTANTIATE_TEST_SUITE_P(EveryKind, KeyboardLoadEveryForm, ::testing::ValuesIn(kKeyboardForms),
+                         [](const auto& info) { return testNameOf(info.param.type); });
 
 // The index of the station a screen reader names so, or -1.
 int childNamed(QAccessibleInterface* picture, const QString& name)
@@ -132,18 +96,9 @@ TEST_F(KeyboardLoad, AScreenReaderReadsTheDecksStationByStationAndPressesOne)
     EXPECT_TRUE(station->state().focused);
 
     prompt.answer("170");
-    g_told.clear();
-    const QAccessible::UpdateHandler before = QAccessible::installUpdateHandler(record);
     actions->doAction(QAccessibleActionInterface::pressAction());
-    QAccessible::installUpdateHandler(before);
     EXPECT_EQ(station->text(QAccessible::Name), "Passenger 12C, 170 lb");
     EXPECT_EQ(text("lblpax", window), "PAX weight =  170 lb.");
-    // Qt hands events on only while a platform accessibility bridge is active, which the offscreen
-    // platform never has; where one is, the bus hears the station's new load and the new total.
-    if (QAccessible::isActive()) {
-        EXPECT_TRUE(wasTold(decks, QAccessible::NameChanged, seat)) << "the station's new load";
-        EXPECT_TRUE(wasTold(find<QLabel>(window, "lbltot"), QAccessible::NameChanged, -1)) << "the new total";
-    }
     ASSERT_EQ(prompt.asked().size(), 1u);
     EXPECT_EQ(prompt.asked()[0].prompt, "Passenger 12C weight in lbs");
 
@@ -154,9 +109,6 @@ TEST_F(KeyboardLoad, AScreenReaderReadsTheDecksStationByStationAndPressesOne)
     // The keyboard goes on from where the screen reader left the focus.
     QTest::keyClick(decks, Qt::Key_Right);
     EXPECT_EQ(picture->focusChild()->text(QAccessible::Name), "Passenger 12D, empty");
-    // The right side of the cabin is drawn above the left: Down goes back across the aisle.
-    QTest::keyClick(decks, Qt::Key_Down);
-    EXPECT_EQ(picture->focusChild(), station);
 }
 
 } // namespace

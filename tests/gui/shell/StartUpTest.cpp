@@ -3,7 +3,6 @@
 #include "TempDir.h"
 
 #include <QCoreApplication>
-
 #include <gtest/gtest.h>
 
 namespace quillet {

@@ -5,7 +5,6 @@
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTest>
 
 namespace quillet {
 namespace {
@@ -20,7 +19,7 @@ protected:
     }
 
     // Opens the dialog from the preset menu's last item.
-    TargetDialog* open()
+    TargetDialog* openDialog()
     {
         QAction* item = find<QAction>(window, "mnutarget");
         EXPECT_EQ(item->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_T));
@@ -49,7 +48,7 @@ protected:
 
 TEST_F(TargetDialogGui, SeatsAndStowsTheTypedLoadByKeyboard)
 {
-    TargetDialog* dialog = open();
+    TargetDialog* dialog = openDialog();
     ASSERT_NE(dialog, nullptr);
     ASSERT_NE(dialog->focusWidget(), nullptr);
     EXPECT_EQ(dialog->focusWidget()->objectName(), "passengers");
@@ -70,7 +69,7 @@ TEST_F(TargetDialogGui, SeatsAndStowsTheTypedLoadByKeyboard)
 
 TEST_F(TargetDialogGui, RefusesAZeroFuelWeightAboveTheMaximumAndCancelChangesNothing)
 {
-    TargetDialog* dialog = open();
+    TargetDialog* dialog = openDialog();
     ASSERT_NE(dialog, nullptr);
     auto* loadBy = find<QWidget>(dialog, "loadBy");
     loadBy->setFocus();
