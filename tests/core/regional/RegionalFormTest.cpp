@@ -1,4 +1,5 @@
 #include "RegionalRig.h"
+#include "regional/RegionalForms.h"
 #include "shell/AircraftTypes.h"
 
 #include <algorithm>
@@ -235,7 +236,7 @@ TEST(RegionalForm, OnlyTheBeechRefreshesTheMainWindowWhenItLosesTheFocus)
 
 // Opening, closing and the main window's lines are the shell's tests (MainWindowTest, with the same
 // LoadForm closing); here, that the aircraft list sends each type to its form and photograph.
-TEST(RegionalForm, TheAircraftListKnowsEachTypesFormAndPhotograph)
+TEST(RegionalForm, TheAircraftListKnowsEachTypesFormAndPhotographAndTheCRJHasItsOwn)
 {
     for (const RegionalType* type : regionalTypes()) {
         const AircraftType* known = findAircraftType(type->type);
@@ -243,6 +244,10 @@ TEST(RegionalForm, TheAircraftListKnowsEachTypesFormAndPhotograph)
         EXPECT_EQ(known->form, type->form);
         EXPECT_EQ(known->picture, type->layout.photoFile);
     }
+    RegionalRig rig;
+    FormRegistry registry;
+    registerRegionalForms(registry);
+    EXPECT_NE(dynamic_cast<CRJ200*>(registry.form("CRJ200", rig.session)), nullptr) << "its own seat map";
 }
 
 } // namespace
