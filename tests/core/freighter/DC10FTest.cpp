@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
-#include <numeric>
 #include <tuple>
 
 namespace quillet {
@@ -331,8 +330,7 @@ TEST(DC10FPresets, NoPresetBreaksALimitAndTheTotalIsTheSum)
         for (void (DC10F::*preset)() :
              {&DC10F::mnulight_Click, &DC10F::mnumed_Click, &DC10F::mnuheav_Click}) {
             (form.*preset)();
-            EXPECT_EQ(state.loadweight,
-                      std::accumulate(&state.stationweight[0], &state.stationweight[kStations], 0.0f));
+            EXPECT_EQ(state.loadweight, rig.sumOfWeights());
             EXPECT_LT(state.loadweight, 400160 - 237594);
             form.cargocheck();
             for (int i = 0; i < kStations; ++i)
