@@ -1,11 +1,13 @@
-// What each deck form draws: every operation of the deck picture with every other station loaded,
-// written out line by line and compared with a file under tests/data checked against the type's
-// published drawing (outline, cabin fittings, seats and containers, headings, hold labels).
+// What each form draws: every operation of the deck picture with every other station loaded, and of
+// each regional cabin and the CRJ's seat map, written out line by line and compared with a file under
+// tests/data checked against the type's published drawing (outline, cabin fittings, seats and
+// containers, headings, hold labels; every regional seat and hold drawn under its station's hot spot).
 
 #include "Golden.h"
 #include "JetRig.h"
 #include "TypeName.h"
-#include "core/freighter/FreighterRig.h"
+#include "core/regional/RegionalRig.h"
+#include "regional/CabinDrawing.h"
 
 #include <cmath>
 #include <cstdio>
@@ -108,6 +110,19 @@ TEST(DC10FDeckPicture, IsTheTypesPublishedDrawing)
     rig.picture().forget();
     form.redraw();
     expectGoldenFile("DC-10-30F.deck", describe(rig.picture().ops()));
+}
+
+TEST(RegionalCabinPicture, IsTheTypesPublishedDrawing)
+{
+    for (const RegionalType* type : regionalTypes()) {
+        RecordingCanvas picture(type->layout.cabin.width, type->layout.cabin.height);
+        drawCabinView(picture, *type);
+        expectGoldenFile(std::string(type->form) + ".cabin", describe(picture.ops()));
+    }
+    RegionalRig rig;
+    CRJ200 crj(rig.session);
+    expectGoldenFile("CRJ200.cabin",
+                     describe(dynamic_cast<RecordingCanvas&>(crj.Picture2()).backgroundOps()));
 }
 
 } // namespace

@@ -1,28 +1,28 @@
 #pragma once
 
 #include "FormRig.h"
+#include "freighter/DC10F.h"
 #include "jets/Boeing.h"
 #include "platform/RecordingCanvas.h"
 
 #include <cctype>
 #include <memory>
-#include <numeric>
 #include <string>
 
 namespace quillet {
 
-// Every jet type in the aircraft menu, each with its aircraft.cfg in a folder named after it
-// ("B737-300" in "b737_300").
-class JetRig : public FormRig {
+// Every deck type in the aircraft menu, each with its aircraft.cfg in a folder named after it
+// ("B737-300" in "b737_300"), and a deck form of one kind.
+template <class Form>
+class DeckRig : public FormRig {
 public:
-    explicit JetRig(RandomSource* generator = nullptr) : FormRig(generator)
+    explicit DeckRig(RandomSource* generator = nullptr) : FormRig(generator)
     {
-        for (const JetType& jet : jetTypes()) {
-            const std::string type(jet.type);
-            addAircraft(
-                type, folderOf(type),
-                "[fltsim.0]\r\ntitle=Test\r\n\r\n[WEIGHT_AND_BALANCE]\r\nmax_number_of_stations = 0\r\n");
-        }
+        for (const JetType& jet : jetTypes())
+            addAircraft(std::string(jet.type), folderOf(std::string(jet.type)));
+        addAircraft("DC-10-30F", folderOf("DC-10-30F"),
+                    "[fltsim.0]\r\ntitle=DC-10\r\n\r\n[WEIGHT_AND_BALANCE]\r\nmax_number_of_stations = 0\r\n"
+                    "\r\n[flight_tuning]\r\ncruise_lift_scalar=1.0\r\n");
     }
 
     static std::string folderOf(std::string type)
@@ -39,23 +39,20 @@ public:
     }
 
     // The form opened for a type the way "Adjust" opens it.
-    Boeing& open(const std::string& type)
+    Form& open(const std::string& type = "DC-10-30F")
     {
         currentType = type;
-        form = std::make_unique<Boeing>(session);
+        form = std::make_unique<Form>(session);
         form->Form_Load();
         return *form;
     }
 
     RecordingCanvas& picture() { return static_cast<RecordingCanvas&>(form->Picture1()); }
 
-    float sumOfWeights() const
-    {
-        const auto& weights = session.state.stationweight;
-        return std::accumulate(weights.begin(), weights.end(), 0.0f);
-    }
-
-    std::unique_ptr<Boeing> form;
+    std::unique_ptr<Form> form;
 };
+
+using JetRig = DeckRig<Boeing>;
+using FreighterRig = DeckRig<DC10F>;
 
 } // namespace quillet

@@ -5,7 +5,6 @@
 #include "regional/RegionalForm.h"
 
 #include <memory>
-#include <numeric>
 #include <string>
 
 namespace quillet {
@@ -19,9 +18,7 @@ public:
         const char* folders[] = {"beech", "emb120", "dash8", "crj200"};
         const RegionalType* types[] = {&beechType(), &emb120Type(), &dhc8Type(), &crj200Type()};
         for (int i = 0; i < 4; ++i) {
-            addAircraft(
-                std::string(types[i]->type), folders[i],
-                "[fltsim.0]\r\ntitle=Test\r\n\r\n[WEIGHT_AND_BALANCE]\r\nmax_number_of_stations = 0\r\n");
+            addAircraft(std::string(types[i]->type), folders[i]);
             dir.write(std::string(types[i]->layout.photoFile), "GIF89a");
         }
     }
@@ -44,12 +41,6 @@ public:
         crj->Form_Load();
         crj->mnuload_Click();
         return *crj;
-    }
-
-    float sumOfWeights() const
-    {
-        const auto& weights = session.state.stationweight;
-        return std::accumulate(weights.begin(), weights.end(), 0.0f);
     }
 
     std::unique_ptr<RegionalForm> form;
