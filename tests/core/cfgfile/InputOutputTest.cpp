@@ -433,27 +433,23 @@ TEST_F(CfgFileTest, ASaveThatWouldGrowTheFilePastWhatCanBeReadBackWritesNothing)
     session.state.nstations = 32;
     for (int i = 0; i < 33; ++i)
         session.state.stationname[i] = "Seat " + std::to_string(i);
+    // 100 lines, a 10-line section, then the given number of lines.
+    const auto tenLineSection = [](int after) {
+        return "[fltsim.0]\r\n" + linesOf("k=v", 99) + "[WEIGHT_AND_BALANCE]\r\n" + linesOf("old", 9) +
+               "[next]\r\n" + linesOf("k=v", after);
+    };
     struct Case {
         const char* what;
         std::string file;
         bool fits;
     };
     const Case cases[] = {
-        {"271 lines, a 10-line section",
-         "[fltsim.0]\r\n" + linesOf("k=v", 99) + "[WEIGHT_AND_BALANCE]\r\n" + linesOf("old", 9) +
-             "[next]\r\n" + linesOf("k=v", 160),
-         false},
+        {"271 lines, a 10-line section", tenLineSection(160), false},
         {"301 lines, a 2-line section", "[WEIGHT_AND_BALANCE]\r\nold\r\n[next]\r\n" + linesOf("k=v", 298),
          false},
         {"299 lines, no section", "[fltsim.0]\r\n" + linesOf("k=v", 298), false},
-        {"260 lines, a 10-line section",
-         "[fltsim.0]\r\n" + linesOf("k=v", 99) + "[WEIGHT_AND_BALANCE]\r\n" + linesOf("old", 9) +
-             "[next]\r\n" + linesOf("k=v", 149),
-         false},
-        {"259 lines, a 10-line section: 301 saved",
-         "[fltsim.0]\r\n" + linesOf("k=v", 99) + "[WEIGHT_AND_BALANCE]\r\n" + linesOf("old", 9) +
-             "[next]\r\n" + linesOf("k=v", 148),
-         true},
+        {"260 lines, a 10-line section", tenLineSection(149), false},
+        {"259 lines, a 10-line section: 301 saved", tenLineSection(148), true},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
