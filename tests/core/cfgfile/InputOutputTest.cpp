@@ -204,25 +204,6 @@ TEST_F(CfgFileTest, TwoMenuEntriesOfOneTypeUseTheFolderOfTheLast)
     EXPECT_EQ(dir.read("fs2000/aircraft/beech_b/aircraft.cfg"), "[WEIGHT_AND_BALANCE]\r\n" + block());
 }
 
-TEST_F(CfgFileTest, AHandEditedStationFileIsShownAndWritten)
-{
-    writeCfg("[WEIGHT_AND_BALANCE]\r\n");
-    // Saved by Notepad: a UTF-8 mark, LF line ends, blanks, a renamed station, one spread over two lines.
-    writeStations(
-        "\xEF\xBB\xBF"
-        "4, 16950,16500,10615,15000,3578\n3,1,1,2,0,1,0\n\"Pilot\",13.5,-2,0,170\n"
-        "\"First Officer\" , 13.5,2,0\n170.25\n\"Passenger 1\",5.0004,-1.1,0,0\n\"Cargo\",-17,0,0,100");
-    ASSERT_TRUE(readcfg(session));
-    EXPECT_EQ(session.state.stationname[1], "First Officer");
-    EXPECT_FLOAT_EQ(session.state.loadweight, 440.25f);
-    ASSERT_TRUE(writecfg(session));
-    EXPECT_NE(TempDir::readFile(cfg()).find("station_load.1 = 170, 13.5, 2.0, 0.0 // First Officer\r\n"),
-              std::string::npos);
-    EXPECT_EQ(TempDir::readFile(stations()),
-              kHead + "\"Pilot\",13.5,-2,0,170\r\n\"First Officer\",13.5,2,0,170.2\r\n"
-                      "\"Passenger 1\",5,-1.1,0,0\r\n\"Cargo\",-17,0,0,100\r\n");
-}
-
 // Hand edits a save would lose or spoil are refused by their line too.
 TEST_F(CfgFileTest, AFailedReadTellsTheUserAndNothingIsWrittenThenOrAtASave)
 {
@@ -491,9 +472,24 @@ TEST_F(CfgFileTest, ASectionWhoseHeaderOrEndIsNotAHeaderLineIsNotSaved)
     expectGoldenMessages("cfg-section-refused.txt", said, dir.path());
 }
 
-TEST_F(CfgFileTest, LabelsWithQuotesAndLoadsUpToTheLimitsReadBackAsTheyWereWritten)
+TEST_F(CfgFileTest, HandEditedStationFilesAndLoadsUpToTheLimitsReadBackAsTheyWereWritten)
 {
     writeCfg("[WEIGHT_AND_BALANCE]\r\n");
+    // Saved by Notepad: a UTF-8 mark, LF line ends, blanks, a renamed station, one spread over two lines.
+    writeStations(
+        "\xEF\xBB\xBF"
+        "4, 16950,16500,10615,15000,3578\n3,1,1,2,0,1,0\n\"Pilot\",13.5,-2,0,170\n"
+        "\"First Officer\" , 13.5,2,0\n170.25\n\"Passenger 1\",5.0004,-1.1,0,0\n\"Cargo\",-17,0,0,100");
+    ASSERT_TRUE(readcfg(session));
+    EXPECT_EQ(session.state.stationname[1], "First Officer");
+    EXPECT_FLOAT_EQ(session.state.loadweight, 440.25f);
+    ASSERT_TRUE(writecfg(session));
+    EXPECT_NE(TempDir::readFile(cfg()).find("station_load.1 = 170, 13.5, 2.0, 0.0 // First Officer\r\n"),
+              std::string::npos);
+    EXPECT_EQ(TempDir::readFile(stations()),
+              kHead + "\"Pilot\",13.5,-2,0,170\r\n\"First Officer\",13.5,2,0,170.2\r\n"
+                      "\"Passenger 1\",5,-1.1,0,0\r\n\"Cargo\",-17,0,0,100\r\n");
+
     // A quote inside a label is written doubled; a station may weigh the whole take-off weight.
     const std::string file = kHead + "\"Seat \"\"3A\"\"\",13.5,-2,0,16950\r\n\"\"\"\",13.5,2,0,0\r\n"
                                      "\"Passenger 1\",5.25,-1.1,0,0\r\n\"Cargo\",-17,0,0,0\r\n";
