@@ -130,47 +130,43 @@ TEST_P(LoadFormHistory, UndoingEveryStepGivesTheReadLoadBackAndRedoingThemTheLas
 INSTANTIATE_TEST_SUITE_P(EveryFormKind, LoadFormHistory, ::testing::ValuesIn(kKinds),
                          [](const auto& info) { return testNameOf(info.param.type); });
 
-struct CloseCase {
-    const char* name;
-    SaveChoice answer;
-    bool diskFull; // makes the save fail
-    bool closes;
-    bool saved;
-};
-
-class ClosingUnsaved : public ::testing::TestWithParam<CloseCase>, protected OpenedForm {
-protected:
-    ClosingUnsaved() : OpenedForm(kKinds[0]) {}
-};
-
-TEST_P(ClosingUnsaved, AsksWhetherToSaveAndClosesOnlyWhenTheLoadIsSafe)
+TEST(ClosingUnsaved, AsksWhetherToSaveAndClosesOnlyWhenTheLoadIsSafe)
 {
-    const std::string stored = rig.dir.read("Beech 1900D.cfg");
-    EXPECT_TRUE(form->Form_QueryUnload()) << "nothing to ask yet";
-    form->step("Heavy Load", [&] { preset<RegionalForm>(*form, true); });
-    RecordingFileSystem disk{systemFiles()};
-    rig.session.files = Files(disk);
-    if (GetParam().diskFull)
-        disk.failWritesAfter(10);
-    rig.clock.set(TimeOfDay{9, 5});
-    rig.prompt.answerSave(GetParam().answer);
+    struct Case {
+        const char* what;
+        SaveChoice answer;
+        bool diskFull; // makes the save fail
+        bool closes;
+        bool saved;
+    };
+    for (const Case& c : {Case{"save", SaveChoice::Save, false, true, true},
+                          Case{"refused save", SaveChoice::Save, true, false, false},
+                          Case{"discard", SaveChoice::Discard, false, true, false},
+                          Case{"cancel", SaveChoice::Cancel, false, false, false}}) {
+        SCOPED_TRACE(c.what);
+        OpenedForm opened(kKinds[0]);
+        FormRig& rig = opened.rig;
+        LoadForm& form = *opened.form;
+        const std::string stored = rig.dir.read("Beech 1900D.cfg");
+        EXPECT_TRUE(form.Form_QueryUnload()) << "nothing to ask yet";
+        form.step("Heavy Load", [&] { preset<RegionalForm>(form, true); });
+        RecordingFileSystem disk{systemFiles()};
+        rig.session.files = Files(disk);
+        if (c.diskFull)
+            disk.failWritesAfter(10);
+        rig.clock.set(TimeOfDay{9, 5});
+        rig.prompt.answerSave(c.answer);
 
-    EXPECT_EQ(form->Form_QueryUnload(), GetParam().closes);
-    EXPECT_EQ(rig.prompt.saveQuestions().size(), 1u);
-    EXPECT_EQ(form->modified(), !GetParam().saved);
-    EXPECT_EQ(rig.dir.read("Beech 1900D.cfg"), GetParam().saved ? stationFile() : stored);
-    EXPECT_EQ(form->saves(), GetParam().saved ? 1 : 0);
-    if (GetParam().saved) {
-        EXPECT_EQ(formatTime(form->savedAt()), "09:05");
+        EXPECT_EQ(form.Form_QueryUnload(), c.closes);
+        EXPECT_EQ(rig.prompt.saveQuestions().size(), 1u);
+        EXPECT_EQ(form.modified(), !c.saved);
+        EXPECT_EQ(rig.dir.read("Beech 1900D.cfg"), c.saved ? opened.stationFile() : stored);
+        EXPECT_EQ(form.saves(), c.saved ? 1 : 0);
+        if (c.saved) {
+            EXPECT_EQ(formatTime(form.savedAt()), "09:05");
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Answers, ClosingUnsaved,
-                         ::testing::Values(CloseCase{"Save", SaveChoice::Save, false, true, true},
-                                           CloseCase{"RefusedSave", SaveChoice::Save, true, false, false},
-                                           CloseCase{"Discard", SaveChoice::Discard, false, true, false},
-                                           CloseCase{"Cancel", SaveChoice::Cancel, false, false, false}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(LoadFormHistoryOfJets, AnotherTypeStartsANewHistoryAndTheSameTypeKeepsIt)
 {
