@@ -7,6 +7,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace quillet {
 
@@ -22,6 +23,25 @@ inline void expectGoldenFile(const std::string& name, const std::string& written
     const std::string golden = TempDir::readFile(goldenFile);
     ASSERT_FALSE(golden.empty()) << "no golden file " << name;
     EXPECT_EQ(written, golden) << name;
+}
+
+// Compares what the program told the user, a message a line, with a golden file. The test's folder
+// reads as <dir>, and the rest of a quoted path below it with forward slashes, so that one file holds
+// the messages of every system.
+inline void expectGoldenMessages(const std::string& name, const std::vector<std::string>& messages,
+                                 const std::filesystem::path& dir)
+{
+    const std::string folder = dir.string();
+    std::string text;
+    for (std::string message : messages) {
+        for (auto at = message.find(folder); at != std::string::npos; at = message.find(folder, at)) {
+            message.replace(at, folder.size(), "<dir>");
+            for (at += 5; at < message.size() && message[at] != '"'; ++at)
+                message[at] = message[at] == '\\' ? '/' : message[at];
+        }
+        text += message + "\n";
+    }
+    expectGoldenFile(name, text);
 }
 
 } // namespace quillet

@@ -1,7 +1,8 @@
 #include "cfgfile/inputoutput.h"
 
+#include "Golden.h"
 #include "Links.h"
-#include "SmallType.h"
+#include "SaveLoopRig.h"
 #include "TempDir.h"
 #include "cfgfile/AircraftFile.h"
 #include "cfgfile/WeightBlock.h"
@@ -35,28 +36,22 @@ std::string linesOf(const std::string& line, int count)
     return text;
 }
 
-// A simulator folder with one aircraft, and a small type set up the way a load form does it.
+// The small type in a simulator folder, a second type in the menu, and a disk that can be made to fail.
 class CfgFileTest : public ::testing::Test {
 protected:
     CfgFileTest()
     {
         fs::create_directories(session.programFolder);
         session.files = Files(disk);
-        LoadState& s = session.state;
-        s.simfolder = (dir.path() / "fs2000").string();
-        s.nmenu = 2;
-        s.menutype[0] = kType;
-        s.menufolder[0] = "beech";
-        s.menutype[1] = "DHC-8-300";
-        s.menufolder[1] = "dash8";
+        session.state.nmenu = 2;
+        session.state.menutype[1] = "DHC-8-300";
+        session.state.menufolder[1] = "dash8";
         session.currentType = [this] { return type; };
-
-        setUpSmallType(s);
     }
 
-    fs::path cfg() const { return dir.path() / "fs2000" / "aircraft" / "beech" / "aircraft.cfg"; }
-    fs::path backup() const { return cfg().parent_path() / "aircraft.cfg.bak"; }
-    fs::path stations() const { return session.programFolder / (kType + ".cfg"); }
+    fs::path cfg() const { return SaveLoopRig::cfg(dir.path()); }
+    fs::path backup() const { return SaveLoopRig::backup(dir.path()); }
+    fs::path stations() const { return SaveLoopRig::stations(dir.path()); }
     void writeCfg(const std::string& bytes) const { dir.write("fs2000/aircraft/beech/aircraft.cfg", bytes); }
     void writeStations(const std::string& bytes) const { dir.write("program/" + kType + ".cfg", bytes); }
 
@@ -79,12 +74,20 @@ protected:
         return out;
     }
 
+    // Takes the waiting messages into `said`, which a test compares with a golden file at its end.
+    std::size_t hear()
+    {
+        const auto told = session.messages.take();
+        said.insert(said.end(), told.begin(), told.end());
+        return told.size();
+    }
+
     TempDir dir;
+    std::vector<std::string> said;
     RecordingFileSystem disk{systemFiles()};
-    ScriptedPrompt prompt;
-    ScriptedRandom random;
-    FixedClock clock{Date{2001, 3, 7}};
-    Session session{prompt, random, clock, dir.path() / "program"};
+    SaveLoopRig rig{dir.path()};
+    Session& session = rig.session;
+    FixedClock& clock = rig.clock;
     std::string type = kType;
 };
 
@@ -201,25 +204,6 @@ TEST_F(CfgFileTest, TwoMenuEntriesOfOneTypeUseTheFolderOfTheLast)
     EXPECT_EQ(dir.read("fs2000/aircraft/beech_b/aircraft.cfg"), "[WEIGHT_AND_BALANCE]\r\n" + block());
 }
 
-TEST_F(CfgFileTest, AHandEditedStationFileIsShownAndWritten)
-{
-    writeCfg("[WEIGHT_AND_BALANCE]\r\n");
-    // Saved by Notepad: a UTF-8 mark, LF line ends, blanks, a renamed station, one spread over two lines.
-    writeStations(
-        "\xEF\xBB\xBF"
-        "4, 16950,16500,10615,15000,3578\n3,1,1,2,0,1,0\n\"Pilot\",13.5,-2,0,170\n"
-        "\"First Officer\" , 13.5,2,0\n170.25\n\"Passenger 1\",5.0004,-1.1,0,0\n\"Cargo\",-17,0,0,100");
-    ASSERT_TRUE(readcfg(session));
-    EXPECT_EQ(session.state.stationname[1], "First Officer");
-    EXPECT_FLOAT_EQ(session.state.loadweight, 440.25f);
-    ASSERT_TRUE(writecfg(session));
-    EXPECT_NE(TempDir::readFile(cfg()).find("station_load.1 = 170, 13.5, 2.0, 0.0 // First Officer\r\n"),
-              std::string::npos);
-    EXPECT_EQ(TempDir::readFile(stations()),
-              kHead + "\"Pilot\",13.5,-2,0,170\r\n\"First Officer\",13.5,2,0,170.2\r\n"
-                      "\"Passenger 1\",5,-1.1,0,0\r\n\"Cargo\",-17,0,0,100\r\n");
-}
-
 // Hand edits a save would lose or spoil are refused by their line too.
 TEST_F(CfgFileTest, AFailedReadTellsTheUserAndNothingIsWrittenThenOrAtASave)
 {
@@ -230,54 +214,32 @@ TEST_F(CfgFileTest, AFailedReadTellsTheUserAndNothingIsWrittenThenOrAtASave)
     };
     // An aircraft.cfg two folders above the simulator's aircraft folder.
     dir.write("outside/aircraft.cfg", "[WEIGHT_AND_BALANCE]\r\n");
-    const auto notAFolderName = [](const std::string& folder) {
-        return "The aircraft folder \"" + folder +
-               "\" of \"Beech 1900D\" is not a single folder name inside the simulator's aircraft folder. "
-               "The load of \"Beech 1900D\" was not read, and nothing will be saved for it until it is read "
-               "successfully.";
-    };
-    const std::string absolute = (dir.path() / "outside").string();
     struct Case {
         const char* what;
         std::optional<std::string> cfg; // none: no aircraft.cfg
         std::string stations;           // empty: no station file
-        std::string said;               // part of the message
         std::string folder = "";        // of a last entry of the type, which is the one used
     };
     const Case cases[] = {
-        {"missing aircraft.cfg", std::nullopt, "", "aircraft.cfg\" does not exist"},
-        {"empty aircraft.cfg", "", stationFile(),
-         "aircraft.cfg\" is empty (0 bytes), so it describes no aircraft"},
-        {"302 lines", lines301 + "one more", "", "aircraft.cfg\" has 302 lines, more than the 301"},
-        {"300 lines, no section", std::string(300, '\n'), "", "has 300 lines, more than the 299"},
-        {"text for a number", "x", kHead + "\"Pilot\",13.5,-2,zero,0\r\n",
-         ".cfg\" cannot be used: line 3: the z position of station 0 should be a number but is \"zero\""},
-        {"ends early", "x", kHead + "\"Pilot\",13.5,-2,0,0\r\n",
-         "line 3: the file ends before the label of station 1"},
-        {"too many stations", "x", "4,16950,16500,10615,15000,3578\r\n300,202,1,2,0,1,0\r\n",
-         "line 2: it lists 300 person and 202 cargo stations, more than the 501"},
-        {"data left over", "x", stationFile() + "\"Extra\",1,2,3,4\r\n", "line 7: there is more data"},
-        {"UTF-16", std::string("\xFF\xFE[\0W\0]\0\r\0\n\0", 12), "",
-         "aircraft.cfg\" is saved as UTF-16 (Unicode) text, which Quillet cannot read; save it again as "
-         "ANSI text."},
-        {"NUL bytes", std::string("[fltsim.0]\r\nti\0tle=x\r\n", 21), "",
-         "aircraft.cfg\" is not a text file: it holds a NUL byte on line 2."},
-        {"NUL in the station file", "x", std::string("4,16950\0", 9),
-         ".cfg\" is not a text file: it holds a NUL byte on line 1."},
-        {"too heavy", "x", stationFile("99999999"),
-         "line 3: the weight of station 0 is \"99999999\" lb, more than the maximum take-off weight of "
-         "16950 lb"},
-        {"far too heavy", "x", stationFile("1e30"),
-         "station 0 is \"1e30\" lb, more than the maximum take-off weight"},
-        {"a bracket in a label", "x", pilot("\"Pilot [left]\",13.5,-2,0,0"),
-         "line 3: the label of station 0 \"Pilot [left]\" holds a \"[\", which aircraft.cfg would read "
-         "as a new section"},
-        {"a quote in a label", "x", pilot("\"Seat \"3A\"\",13.5,-2,0,0"),
-         "line 3: the label of station 0 \"Seat \" is followed by more text after its closing double quote"},
-        {"a path with backslashes", "x", "", notAFolderName("..\\..\\..\\outside"), "..\\..\\..\\outside"},
-        {"a path with slashes", "x", "", notAFolderName("../../../outside"), "../../../outside"},
-        {"an absolute path", "x", "", notAFolderName(absolute), absolute},
-        {"the folder above", "x", "", notAFolderName(".."), ".."},
+        {"missing aircraft.cfg", std::nullopt, ""},
+        {"empty aircraft.cfg", "", stationFile()},
+        {"302 lines", lines301 + "one more", ""},
+        {"300 lines, no section", std::string(300, '\n'), ""},
+        {"text for a number", "x", kHead + "\"Pilot\",13.5,-2,zero,0\r\n"},
+        {"ends early", "x", kHead + "\"Pilot\",13.5,-2,0,0\r\n"},
+        {"too many stations", "x", "4,16950,16500,10615,15000,3578\r\n300,202,1,2,0,1,0\r\n"},
+        {"data left over", "x", stationFile() + "\"Extra\",1,2,3,4\r\n"},
+        {"UTF-16", std::string("\xFF\xFE[\0W\0]\0\r\0\n\0", 12), ""},
+        {"NUL bytes", std::string("[fltsim.0]\r\nti\0tle=x\r\n", 21), ""},
+        {"NUL in the station file", "x", std::string("4,16950\0", 9)},
+        {"too heavy", "x", stationFile("99999999")},
+        {"far too heavy", "x", stationFile("1e30")},
+        {"a bracket in a label", "x", pilot("\"Pilot [left]\",13.5,-2,0,0")},
+        {"a quote in a label", "x", pilot("\"Seat \"3A\"\",13.5,-2,0,0")},
+        {"a path with backslashes", "x", "", "..\\..\\..\\outside"},
+        {"a path with slashes", "x", "", "../../../outside"},
+        {"an absolute path", "x", "", (dir.path() / "outside").string()},
+        {"the folder above", "x", "", ".."},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
@@ -295,18 +257,17 @@ TEST_F(CfgFileTest, AFailedReadTellsTheUserAndNothingIsWrittenThenOrAtASave)
         const auto filesBefore = allFiles();
 
         EXPECT_FALSE(readcfg(session));
-        const auto told = session.messages.take();
-        ASSERT_EQ(told.size(), 1u);
-        EXPECT_NE(told[0].find(c.said), std::string::npos) << told[0];
+        EXPECT_EQ(hear(), 1u);
         EXPECT_EQ(session.state.stationweight[1], 0);
         EXPECT_EQ(session.state.loadweight, 0);
         EXPECT_EQ(session.state.stationname[1], "Co-pilot");
         EXPECT_EQ(session.state.cfgcount, 0);
 
         EXPECT_FALSE(writecfg(session));
-        EXPECT_EQ(session.messages.take().size(), 1u);
+        EXPECT_EQ(hear(), 1u);
         EXPECT_EQ(allFiles(), filesBefore);
     }
+    expectGoldenMessages("cfg-read-refused.txt", said, dir.path());
 }
 
 // Both files are checked before either is written; a save refused keeps both as they were.
@@ -346,36 +307,18 @@ TEST_F(CfgFileTest, AFailedSaveKeepsTheOldFilesAndTellsWhy)
     session.state.stationweight[3] = 0;
     EXPECT_EQ(allFiles(), filesBefore);
 
-    const auto told = session.messages.take();
-    ASSERT_EQ(told.size(), 8u);
-    EXPECT_NE(told[0].find("aircraft.cfg\" is read-only"), std::string::npos) << told[0];
-    EXPECT_NE(told[1].find("the old file was kept"), std::string::npos) << told[1];
-    EXPECT_NE(told[2].find("dash8"), std::string::npos) << told[2];
-    EXPECT_NE(told[3].find("beech2"), std::string::npos) << told[3];
-    EXPECT_EQ(told[4],
-              "Nothing was saved: \"" + stations().string() + "\" is read-only, so it was not changed.");
-    EXPECT_EQ(told[5],
-              "Nothing was saved: \"" + stations().string() + "\" is a folder, so it cannot be written.");
-
-    for (const std::string& said : {told[6], told[7]})
-        EXPECT_NE(said.find("would not read back: line 6: the weight of station 3 is "), std::string::npos)
-            << said;
+    EXPECT_EQ(hear(), 8u);
+    expectGoldenMessages("cfg-save-refused.txt", said, dir.path());
 
     // What no check can foresee: the station file cannot be renamed into place.
     disk.failAfter(FileStep::Rename, 1);
     EXPECT_FALSE(writecfg(session));
     EXPECT_EQ(TempDir::readFile(cfg()), "a\r\n[WEIGHT_AND_BALANCE]\r\n" + block());
     EXPECT_EQ(TempDir::readFile(stations()), stationFile());
-    const std::string said = session.messages.take().at(0);
-    EXPECT_TRUE(said.starts_with(
-        "\"" + cfg().string() +
-        "\" was saved: the simulator now flies the new load. But the station file was not: \"" +
-        stations().string() + "\" could not be replaced: "))
-        << said;
-    EXPECT_TRUE(
-        said.ends_with("; the old file was kept. The load Quillet keeps for \"Beech 1900D\" is still the "
-                       "previous one; save again to store the new one."))
-        << said;
+    std::string notRenamed = session.messages.take().at(0);
+    const auto why = notRenamed.find("could not be replaced: ") + 23; // the system's words differ
+    notRenamed.erase(why, notRenamed.find("; the old file was kept.") - why);
+    expectGoldenMessages("cfg-station-file-not-renamed.txt", {notRenamed}, dir.path());
 }
 
 // A save is durable at every moment only in this order: each file written and flushed, both renamed,
@@ -423,17 +366,13 @@ TEST_F(CfgFileTest, AStationFileThatCannotBeCreatedIsReportedButTheReadStands)
     writeCfg("[WEIGHT_AND_BALANCE]\r\n");
     session.programFolder = dir.path() / "no such folder";
     EXPECT_TRUE(readcfg(session));
-    const auto told = session.messages.take();
-    ASSERT_EQ(told.size(), 1u);
-    EXPECT_NE(told[0].find("station file could not be created"), std::string::npos) << told[0];
+    EXPECT_EQ(hear(), 1u);
 
     // Still missing at the save: known before aircraft.cfg is touched, so neither file is written.
     EXPECT_FALSE(writecfg(session));
     EXPECT_EQ(TempDir::readFile(cfg()), "[WEIGHT_AND_BALANCE]\r\n");
-    EXPECT_EQ(session.messages.take(),
-              std::vector<std::string>{"Nothing was saved: \"" + stations().string() +
-                                       "\" cannot be written: its folder \"" +
-                                       session.programFolder.string() + "\" does not exist."});
+    EXPECT_EQ(hear(), 1u);
+    expectGoldenMessages("cfg-no-program-folder.txt", said, dir.path());
 }
 
 TEST_F(CfgFileTest, TheOneTimeBackupIsWholeOrAbsentAndOnlyAPlainFileCounts)
@@ -442,22 +381,12 @@ TEST_F(CfgFileTest, TheOneTimeBackupIsWholeOrAbsentAndOnlyAPlainFileCounts)
         "[fltsim.0]\r\ntitle=Beech\r\n[WEIGHT_AND_BALANCE]\r\nstation_load.0 = 1\r\n";
     writeCfg(original);
     const auto filesBefore = allFiles();
-    const auto refused = [&](const std::string& why) {
-        return std::vector<std::string>{
-            "The one-time backup of \"" + cfg().string() + "\" could not be made: \"" + backup().string() +
-            "\" " + why +
-            " Quillet keeps the aircraft's original file there before it changes "
-            "anything. The load of \"Beech 1900D\" was not read, and nothing will be "
-            "saved for it until it is read successfully."};
-    };
 
     // The disk fills up while the backup is written.
     disk.failWritesAfter(10);
     EXPECT_FALSE(readcfg(session));
     disk.failWritesAfter(std::nullopt);
-    EXPECT_EQ(session.messages.take(), refused("could not be written completely (is the disk full?)."));
     EXPECT_FALSE(writecfg(session));
-    EXPECT_EQ(session.messages.take().size(), 1u);
     EXPECT_EQ(allFiles(), filesBefore) << "no backup, no temporary file, no station file";
 
     ASSERT_TRUE(readcfg(session));
@@ -467,114 +396,100 @@ TEST_F(CfgFileTest, TheOneTimeBackupIsWholeOrAbsentAndOnlyAPlainFileCounts)
     fs::remove(backup());
     fs::create_directory(backup());
     EXPECT_FALSE(readcfg(session));
-    EXPECT_EQ(session.messages.take(), refused("is a folder, not a file."));
+    EXPECT_EQ(hear(), 3u) << "the disk, the save, the folder";
+    expectGoldenMessages("cfg-backup-refused.txt", said, dir.path());
     fs::remove(backup());
     const fs::path nowhere = dir.path() / "gone" / "aircraft.cfg.bak";
     QUILLET_LINK_OR_SKIP(nowhere, backup());
     EXPECT_FALSE(readcfg(session));
-    EXPECT_EQ(session.messages.take(),
-              refused("is a link to \"" + nowhere.string() + "\", which does not exist."));
+    expectGoldenMessages("cfg-backup-link.txt", session.messages.take(), dir.path());
     EXPECT_FALSE(fs::exists(dir.path() / "gone"));
     EXPECT_EQ(TempDir::readFile(cfg()), original);
 }
 
-// A type with 33 stations, as many as a 30-seat commuter: its block is 51 lines.
-void setUpThirtyThreeStations(LoadState& s)
-{
-    s.cfgstations = 33;
-    s.nstations = 32;
-    s.ncargo = 1;
-    for (int i = 0; i < 33; ++i)
-        s.stationname[i] = "Seat " + std::to_string(i);
-}
-
 TEST_F(CfgFileTest, ASaveThatWouldGrowTheFilePastWhatCanBeReadBackWritesNothing)
 {
-    setUpThirtyThreeStations(session.state);
+    // 33 stations, as many as a 30-seat commuter: its block is 51 lines.
+    session.state.cfgstations = 33;
+    session.state.nstations = 32;
+    for (int i = 0; i < 33; ++i)
+        session.state.stationname[i] = "Seat " + std::to_string(i);
+    // 100 lines, a 10-line section, then the given number of lines.
+    const auto tenLineSection = [](int after) {
+        return "[fltsim.0]\r\n" + linesOf("k=v", 99) + "[WEIGHT_AND_BALANCE]\r\n" + linesOf("old", 9) +
+               "[next]\r\n" + linesOf("k=v", after);
+    };
     struct Case {
         const char* what;
         std::string file;
-        int savedLines; // 0: it fits
+        bool fits;
     };
     const Case cases[] = {
-        {"271 lines, a 10-line section",
-         "[fltsim.0]\r\n" + linesOf("k=v", 99) + "[WEIGHT_AND_BALANCE]\r\n" + linesOf("old", 9) +
-             "[next]\r\n" + linesOf("k=v", 160),
-         313},
+        {"271 lines, a 10-line section", tenLineSection(160), false},
         {"301 lines, a 2-line section", "[WEIGHT_AND_BALANCE]\r\nold\r\n[next]\r\n" + linesOf("k=v", 298),
-         351},
-        {"299 lines, no section", "[fltsim.0]\r\n" + linesOf("k=v", 298), 352},
-        {"260 lines, a 10-line section",
-         "[fltsim.0]\r\n" + linesOf("k=v", 99) + "[WEIGHT_AND_BALANCE]\r\n" + linesOf("old", 9) +
-             "[next]\r\n" + linesOf("k=v", 149),
-         302},
-        {"259 lines, a 10-line section: 301 saved",
-         "[fltsim.0]\r\n" + linesOf("k=v", 99) + "[WEIGHT_AND_BALANCE]\r\n" + linesOf("old", 9) +
-             "[next]\r\n" + linesOf("k=v", 148),
-         0},
+         false},
+        {"299 lines, no section", "[fltsim.0]\r\n" + linesOf("k=v", 298), false},
+        {"260 lines, a 10-line section", tenLineSection(149), false},
+        {"259 lines, a 10-line section: 301 saved", tenLineSection(148), true},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         writeCfg(c.file);
         ASSERT_TRUE(readcfg(session));
         const auto filesBefore = allFiles();
-        if (c.savedLines == 0) {
+        if (c.fits) {
             ASSERT_TRUE(writecfg(session));
             EXPECT_EQ(splitLines(TempDir::readFile(cfg())).size(), 301u);
         } else {
             EXPECT_FALSE(writecfg(session));
-            EXPECT_EQ(
-                session.messages.take(),
-                std::vector<std::string>{
-                    "Nothing was saved: with the new weight and balance section \"" + cfg().string() +
-                    "\" would have " + std::to_string(c.savedLines) +
-                    " lines, more than the 301 this program can read back. Remove some lines outside that "
-                    "section (comments, for instance), then save again."});
+            EXPECT_EQ(hear(), 1u);
             EXPECT_EQ(allFiles(), filesBefore);
         }
         // Either way the file reads again without complaint.
         EXPECT_TRUE(readcfg(session));
         EXPECT_TRUE(session.messages.pending().empty());
     }
+    expectGoldenMessages("cfg-save-too-long.txt", said, dir.path());
 }
 
 TEST_F(CfgFileTest, ASectionWhoseHeaderOrEndIsNotAHeaderLineIsNotSaved)
 {
-    struct Case {
-        const char* what;
-        std::string file;
-        std::string said;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, std::string> cases[] = {
         {"the header text in a comment first",
-         "[fltsim.0]\r\n// see [WEIGHT_AND_BALANCE] below\r\n[WEIGHT_AND_BALANCE]\r\nold\r\n",
-         "line 2 of \"" + cfg().string() +
-             "\", \"// see [WEIGHT_AND_BALANCE] below\", holds \"[WEIGHT_AND_BALANCE]\" after other text, "
-             "so it is not the section's header line; saving would put the new section in its place. Take "
-             "that text out of the line, then save again."},
-        {"a bracket in a comment ends the section",
-         "[WEIGHT_AND_BALANCE]\r\n// reference datum relative to nose [3.4]\r\n"
-         "station_load.0 = 1\r\n[next]\r\n",
-         "line 2 of \"" + cfg().string() +
-             "\", \"// reference datum relative to nose [3.4]\", ends the [WEIGHT_AND_BALANCE] section "
-             "because it holds a \"[\", but it is not a section header line; saving would leave the old "
-             "section's lines after it below the new ones. Take the \"[\" out of that line, then "
-             "save again."},
+         "[fltsim.0]\r\n// see [WEIGHT_AND_BALANCE] below\r\n[WEIGHT_AND_BALANCE]\r\nold\r\n"},
+        {"a bracket in a comment ends the section", "[WEIGHT_AND_BALANCE]\r\n// reference datum relative to "
+                                                    "nose [3.4]\r\nstation_load.0 = 1\r\n[next]\r\n"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        writeCfg(c.file);
+    for (const auto& [what, file] : cases) {
+        SCOPED_TRACE(what);
+        writeCfg(file);
         ASSERT_TRUE(readcfg(session));
         const auto filesBefore = allFiles();
         EXPECT_FALSE(writecfg(session));
-        EXPECT_EQ(session.messages.take(), std::vector<std::string>{"Nothing was saved: " + c.said});
+        EXPECT_EQ(hear(), 1u);
         EXPECT_EQ(allFiles(), filesBefore);
     }
+    expectGoldenMessages("cfg-section-refused.txt", said, dir.path());
 }
 
-TEST_F(CfgFileTest, LabelsWithQuotesAndLoadsUpToTheLimitsReadBackAsTheyWereWritten)
+TEST_F(CfgFileTest, HandEditedStationFilesAndLoadsUpToTheLimitsReadBackAsTheyWereWritten)
 {
     writeCfg("[WEIGHT_AND_BALANCE]\r\n");
+    // Saved by Notepad: a UTF-8 mark, LF line ends, blanks, a renamed station, one spread over two lines.
+    writeStations(
+        "\xEF\xBB\xBF"
+        "4, 16950,16500,10615,15000,3578\n3,1,1,2,0,1,0\n\"Pilot\",13.5,-2,0,170\n"
+        "\"First Officer\" , 13.5,2,0\n170.25\n\"Passenger 1\",5.0004,-1.1,0,0\n\"Cargo\",-17,0,0,100");
+    ASSERT_TRUE(readcfg(session));
+    EXPECT_EQ(session.state.stationname[1], "First Officer");
+    EXPECT_FLOAT_EQ(session.state.loadweight, 440.25f);
+    ASSERT_TRUE(writecfg(session));
+    EXPECT_NE(TempDir::readFile(cfg()).find("station_load.1 = 170, 13.5, 2.0, 0.0 // First Officer\r\n"),
+              std::string::npos);
+    EXPECT_EQ(TempDir::readFile(stations()),
+              kHead + "\"Pilot\",13.5,-2,0,170\r\n\"First Officer\",13.5,2,0,170.2\r\n"
+                      "\"Passenger 1\",5,-1.1,0,0\r\n\"Cargo\",-17,0,0,100\r\n");
+
     // A quote inside a label is written doubled; a station may weigh the whole take-off weight.
     const std::string file = kHead + "\"Seat \"\"3A\"\"\",13.5,-2,0,16950\r\n\"\"\"\",13.5,2,0,0\r\n"
                                      "\"Passenger 1\",5.25,-1.1,0,0\r\n\"Cargo\",-17,0,0,0\r\n";

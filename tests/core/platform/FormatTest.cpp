@@ -20,28 +20,20 @@ extern "C" const char* __lsan_default_suppressions()
 namespace quillet {
 namespace {
 
-TEST(NumberFormats, WholeNumbersRoundHalvesAwayFromZero)
+// Whole numbers round halves away from zero, one decimal is taken at 15 digits as the user reads it
+// (1.15 is 1.2), a value that rounds to zero has no sign, and there is no thousands separator.
+TEST(NumberFormats, WholeAndOneDecimal)
 {
-    EXPECT_EQ(format0(2.5), "3");
-    EXPECT_EQ(format0(-2.5), "-3");
-    EXPECT_EQ(format0(2.4999), "2");
-    EXPECT_EQ(format0(182.6f), "183");
-    EXPECT_EQ(format0(0), "0");
-    EXPECT_EQ(format0(-0.4), "0") << "a value that rounds to zero has no sign";
-    EXPECT_EQ(format0(1234567), "1234567") << "no thousands separator";
-    EXPECT_EQ(format0(1e20), "100000000000000000000");
-}
-
-TEST(NumberFormats, OneDecimal)
-{
-    EXPECT_EQ(format1(0.45), "0.5");
-    EXPECT_EQ(format1(1.15), "1.2") << "taken at 15 digits, as the user reads it";
-    EXPECT_EQ(format1(220), "220.0");
-    EXPECT_EQ(format1(1.0 / 2.2), "0.5");
-    EXPECT_EQ(format1(-13), "-13.0");
-    EXPECT_EQ(format1(-0.04), "0.0");
-    EXPECT_EQ(format1(0.05), "0.1");
-    EXPECT_EQ(format1(99.96), "100.0");
+    const std::pair<double, const char*> whole[] = {
+        {2.5, "3"}, {-2.5, "-3"}, {2.4999, "2"},        {182.6f, "183"},
+        {0, "0"},   {-0.4, "0"},  {1234567, "1234567"}, {1e20, "100000000000000000000"}};
+    for (const auto& [value, text] : whole)
+        EXPECT_EQ(format0(value), text) << value;
+    const std::pair<double, const char*> oneDecimal[] = {{0.45, "0.5"},      {1.15, "1.2"},   {220, "220.0"},
+                                                         {1.0 / 2.2, "0.5"}, {-13, "-13.0"},  {-0.04, "0.0"},
+                                                         {0.05, "0.1"},      {99.96, "100.0"}};
+    for (const auto& [value, text] : oneDecimal)
+        EXPECT_EQ(format1(value), text) << value;
 }
 
 // Switches the C and C++ locales to one with a decimal comma, if one is installed, for as long as it
@@ -95,59 +87,45 @@ TEST(NumberFormats, IgnoreTheLocale)
     EXPECT_EQ(parsed, -3.25);
 }
 
-TEST(NumberFormats, HalvesToEven)
+TEST(NumberFormats, HalvesToEvenAndShortestPlainDecimal)
 {
     EXPECT_EQ(roundHalfEven(2.5), 2);
     EXPECT_EQ(roundHalfEven(3.5), 4);
     EXPECT_EQ(roundHalfEven(-2.5), -2);
     EXPECT_EQ(roundHalfEven(0.0625, 3), 0.062);
     EXPECT_EQ(roundHalfEven(182.6f, 1), 182.6);
-}
 
-TEST(NumberFormats, ShortestPlainDecimal)
-{
-    EXPECT_EQ(shortestNumber(13.5f), "13.5");
-    EXPECT_EQ(shortestNumber(-2.0f), "-2");
-    EXPECT_EQ(shortestNumber(0.1f), "0.1");
-    EXPECT_EQ(shortestNumber(0.0f), "0");
-    EXPECT_EQ(shortestNumber(-0.0f), "0");
-    EXPECT_EQ(shortestNumber(16950.0f), "16950");
-    EXPECT_EQ(shortestNumber(1e10f), "10000000000");
+    const std::pair<float, const char*> shortest[] = {
+        {13.5f, "13.5"}, {-2.0f, "-2"},       {0.1f, "0.1"},         {0.0f, "0"},
+        {-0.0f, "0"},    {16950.0f, "16950"}, {1e10f, "10000000000"}};
+    for (const auto& [value, text] : shortest)
+        EXPECT_EQ(shortestNumber(value), text) << value;
     EXPECT_EQ(shortestNumber(182.6), "182.6");
 }
 
+// The longest leading number: blanks inside it are ignored, an exponent without digits and a comma end
+// it, and a number too large to hold counts as none.
 TEST(LeadingNumber, ReadsTheLongestLeadingNumber)
 {
-    EXPECT_EQ(val("85 kg"), 85);
-    EXPECT_EQ(val("abc"), 0);
-    EXPECT_EQ(val(""), 0);
-    EXPECT_EQ(val("-80"), -80);
-    EXPECT_DOUBLE_EQ(val("182.6"), 182.6);
-    EXPECT_EQ(val(" 1 7 0 lb"), 170) << "blanks inside the number are ignored";
-    EXPECT_DOUBLE_EQ(val(".5"), 0.5);
-    EXPECT_DOUBLE_EQ(val("-.5"), -0.5);
-    EXPECT_EQ(val("1e3"), 1000);
-    EXPECT_EQ(val("2e"), 2) << "an exponent without digits is not part of the number";
-    EXPECT_EQ(val("+12"), 12);
-    EXPECT_EQ(val("12,5"), 12) << "a comma ends the number";
-    EXPECT_EQ(val("-"), 0);
-    EXPECT_EQ(val("."), 0);
-    EXPECT_EQ(val("1e999"), 0) << "a number too large to hold counts as none";
+    const std::pair<const char*, double> cases[] = {
+        {"85 kg", 85},      {"abc", 0},   {"", 0},       {"-80", -80},  {"182.6", 182.6},
+        {" 1 7 0 lb", 170}, {".5", 0.5},  {"-.5", -0.5}, {"1e3", 1000}, {"2e", 2},
+        {"+12", 12},        {"12,5", 12}, {"-", 0},      {".", 0},      {"1e999", 0}};
+    for (const auto& [text, value] : cases)
+        EXPECT_DOUBLE_EQ(val(text), value) << text;
 }
 
 TEST(LeadingNumber, WholeFieldParsing)
 {
+    const std::pair<const char*, double> numbers[] = {{" 13.5 ", 13.5}, {"-2", -2}, {"+1E+07", 1e7}};
+    for (const auto& [text, value] : numbers) {
+        double v = -1;
+        EXPECT_TRUE(parseNumber(text, v)) << text;
+        EXPECT_EQ(v, value);
+    }
     double v = -1;
-    EXPECT_TRUE(parseNumber(" 13.5 ", v));
-    EXPECT_EQ(v, 13.5);
-    EXPECT_TRUE(parseNumber("-2", v));
-    EXPECT_EQ(v, -2);
-    EXPECT_TRUE(parseNumber("+1E+07", v));
-    EXPECT_EQ(v, 1e7);
-    EXPECT_FALSE(parseNumber("12abc", v));
-    EXPECT_FALSE(parseNumber("abc", v));
-    EXPECT_FALSE(parseNumber("", v));
-    EXPECT_FALSE(parseNumber("1e999", v));
+    for (const char* text : {"12abc", "abc", "", "1e999"})
+        EXPECT_FALSE(parseNumber(text, v)) << text;
 }
 
 TEST(DateText, DayWithoutLeadingZeroAndEnglishMonth)

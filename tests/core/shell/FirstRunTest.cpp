@@ -7,26 +7,14 @@
 #include "Golden.h"
 #include "ShellFixture.h"
 #include "TypeName.h"
-#include "freighter/FreighterForms.h"
-#include "jets/JetForms.h"
-#include "regional/RegionalForms.h"
-#include "shell/AircraftTypes.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <string>
 
 namespace quillet {
 namespace {
-
-void registerLoadForms(FormRegistry& forms)
-{
-    registerRegionalForms(forms);
-    registerJetForms(forms);
-    registerFreighterForms(forms);
-}
 
 std::string number(double value)
 {
@@ -61,17 +49,12 @@ std::string tableText(const LoadState& s)
     return text;
 }
 
-class FirstRunStationFile : public ShellFixture, public ::testing::WithParamInterface<AircraftType> {};
+using FirstRunStationFile = EveryTypeFixture;
 
 TEST_P(FirstRunStationFile, IsTheBuiltInTableWithNobodyAboard)
 {
     const std::string type(GetParam().type);
-    dir.makeSimulator();
-    dir.makeAircraft("plane");
-    dir.writeIni(dir.sim(), {type + ",plane"});
-    registerLoadForms(forms);
-
-    form1.Form_Load(); // lists the type and reads it: there is no station file yet
+    start(); // there is no station file yet
     ASSERT_EQ(form1.Combo1.text(), type);
     expectGoldenFile(type + ".cfg", dir.read(type + ".cfg"));
     EXPECT_TRUE(told("station file").empty());
@@ -87,18 +70,13 @@ TEST_P(FirstRunStationFile, SetsUpTheBuiltInTable)
     state.menufolder[0] = "plane";
     state.nmenu = 1;
     session.currentType = [type] { return type; };
-    registerLoadForms(forms);
 
     forms.form(findAircraftType(type)->form, session)->Form_Load();
     expectGoldenFile(type + ".table", tableText(state));
 }
 
-std::string testName(const ::testing::TestParamInfo<AircraftType>& info)
-{
-    return testNameOf(info.param.type);
-}
-
-INSTANTIATE_TEST_SUITE_P(EveryType, FirstRunStationFile, ::testing::ValuesIn(kAircraftTypes), testName);
+INSTANTIATE_TEST_SUITE_P(EveryType, FirstRunStationFile, ::testing::ValuesIn(kAircraftTypes),
+                         [](const auto& info) { return testNameOf(info.param.type); });
 
 } // namespace
 } // namespace quillet

@@ -3,13 +3,8 @@
 
 #include "ShellFixture.h"
 #include "TypeName.h"
-#include "freighter/FreighterForms.h"
-#include "jets/JetForms.h"
-#include "regional/RegionalForms.h"
-#include "shell/AircraftTypes.h"
 
 #include <algorithm>
-#include <cctype>
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
@@ -17,21 +12,8 @@
 namespace quillet {
 namespace {
 
-class KeyboardStations : public ShellFixture, public ::testing::WithParamInterface<AircraftType> {
+class KeyboardStations : public EveryTypeFixture {
 protected:
-    LoadForm& open()
-    {
-        const std::string type(GetParam().type);
-        dir.makeSimulator();
-        dir.makeAircraft("plane");
-        dir.writeIni(dir.sim(), {type + ",plane"});
-        registerRegionalForms(forms);
-        registerJetForms(forms);
-        registerFreighterForms(forms);
-        form1.Form_Load();
-        return *forms.existing(GetParam().form);
-    }
-
     int loadedStations() const
     {
         const auto end = state.stationweight.begin() + state.stationsInUse();
@@ -42,7 +24,7 @@ protected:
 
 TEST_P(KeyboardStations, ReachEveryStationOnceAndAPressLoadsThatStationAlone)
 {
-    LoadForm& form = open();
+    LoadForm& form = start();
     const std::vector<FocusStation> stations = form.focusStations();
     std::set<int> reached;
     for (const FocusStation& station : stations)
@@ -62,12 +44,8 @@ TEST_P(KeyboardStations, ReachEveryStationOnceAndAPressLoadsThatStationAlone)
     }
 }
 
-std::string testName(const ::testing::TestParamInfo<AircraftType>& info)
-{
-    return testNameOf(info.param.type);
-}
-
-INSTANTIATE_TEST_SUITE_P(EveryType, KeyboardStations, ::testing::ValuesIn(kAircraftTypes), testName);
+INSTANTIATE_TEST_SUITE_P(EveryType, KeyboardStations, ::testing::ValuesIn(kAircraftTypes),
+                         [](const auto& info) { return testNameOf(info.param.type); });
 
 } // namespace
 } // namespace quillet

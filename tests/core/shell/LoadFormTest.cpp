@@ -1,8 +1,9 @@
-#include "platform/RecordingFileSystem.h"
 #include "FormRig.h"
+#include "TypeName.h"
 #include "cfgfile/StationFile.h"
 #include "freighter/DC10F.h"
 #include "jets/Boeing.h"
+#include "platform/RecordingFileSystem.h"
 #include "regional/CRJ200.h"
 #include "regional/RegionalForm.h"
 
@@ -21,10 +22,9 @@ struct FormKind {
     const char* type;
     std::function<std::unique_ptr<LoadForm>(Session&)> make;
     std::function<void(LoadForm&, const LoadState&, int station)> click;
-    std::function<void(LoadForm&)> heavy;
-    std::function<void(LoadForm&)> light;
-    int first;  // an empty station, clicked and answered
-    int second; // clicked after the heavy load
+    std::function<void(LoadForm&, bool heavy)> preset; // the heavy or the light load
+    int first;                                         // an empty station, clicked and answered
+    int second;                                        // clicked after the heavy load
 };
 
 template <class Form>
@@ -33,27 +33,28 @@ void pressAt(LoadForm& form, const LoadState& state, int station)
     static_cast<Form&>(form).Picture1_MouseDown(DeckForm::kLeftButton, 0, state.stationpx[station],
                                                 state.stationpy[station]);
 }
+template <class Form>
+void preset(LoadForm& form, bool heavy)
+{
+    heavy ? static_cast<Form&>(form).mnuheav_Click() : static_cast<Form&>(form).mnulight_Click();
+}
 
 const FormKind kKinds[] = {
     {"Beech 1900D", [](Session& s) { return std::make_unique<RegionalForm>(s, beechType()); },
      [](LoadForm& f, const LoadState&, int station) {
          static_cast<RegionalForm&>(f).location_Click(station);
      },
-     [](LoadForm& f) { static_cast<RegionalForm&>(f).mnuheav_Click(); },
-     [](LoadForm& f) { static_cast<RegionalForm&>(f).mnulight_Click(); }, 5, 7},
+     preset<RegionalForm>, 5, 7},
     {"CRJ-200ER", [](Session& s) { return std::make_unique<CRJ200>(s); },
      [](LoadForm& f, const LoadState& state, int station) {
          static_cast<CRJ200&>(f).Picture2_MouseDown(CRJ200::kLeftButton, 0, state.stationpx[station],
                                                     state.stationpy[station]);
      },
-     [](LoadForm& f) { static_cast<CRJ200&>(f).mnuheav_Click(); },
-     [](LoadForm& f) { static_cast<CRJ200&>(f).mnulight_Click(); }, 4, 9},
-    {"B737-300", [](Session& s) { return std::make_unique<Boeing>(s); }, pressAt<Boeing>,
-     [](LoadForm& f) { static_cast<Boeing&>(f).mnuheav_Click(); },
-     [](LoadForm& f) { static_cast<Boeing&>(f).mnulight_Click(); }, 12, 30},
-    {"DC-10-30F", [](Session& s) { return std::make_unique<DC10F>(s); }, pressAt<DC10F>,
-     [](LoadForm& f) { static_cast<DC10F&>(f).mnuheav_Click(); },
-     [](LoadForm& f) { static_cast<DC10F&>(f).mnulight_Click(); }, 3, 20},
+     preset<CRJ200>, 4, 9},
+    {"B737-300", [](Session& s) { return std::make_unique<Boeing>(s); }, pressAt<Boeing>, preset<Boeing>, 12,
+     30},
+    {"DC-10-30F", [](Session& s) { return std::make_unique<DC10F>(s); }, pressAt<DC10F>, preset<DC10F>, 3,
+     20},
 };
 
 // A form opened on its type as "Adjust" opens it, with presets drawn from the program's generator.
@@ -97,13 +98,13 @@ TEST_P(LoadFormHistory, UndoingEveryStepGivesTheReadLoadBackAndRedoingThemTheLas
     click(first);
     EXPECT_EQ(form->undoName(), state.stationname[first]);
     EXPECT_TRUE(form->modified());
-    form->step("Heavy Load", [&] { GetParam().heavy(*form); });
+    form->step("Heavy Load", [&] { GetParam().preset(*form, true); });
     EXPECT_EQ(form->undoName(), "Heavy Load");
     if (state.stationweight[second] == 0)
         rig.prompt.answer("200");
     click(second);
     EXPECT_EQ(form->undoName(), state.stationname[second]);
-    form->step("Light Load", [&] { GetParam().light(*form); });
+    form->step("Light Load", [&] { GetParam().preset(*form, false); });
     const std::string last = stationFile();
     ASSERT_NE(last, read);
 
@@ -126,58 +127,51 @@ TEST_P(LoadFormHistory, UndoingEveryStepGivesTheReadLoadBackAndRedoingThemTheLas
     EXPECT_EQ(form->undoName(), "Light Load");
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryFormKind, LoadFormHistory, ::testing::ValuesIn(kKinds), [](const auto& info) {
-    std::string name = info.param.type;
-    std::erase_if(name, [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); });
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(EveryFormKind, LoadFormHistory, ::testing::ValuesIn(kKinds),
+                         [](const auto& info) { return testNameOf(info.param.type); });
 
-struct CloseCase {
-    const char* name;
-    SaveChoice answer;
-    bool diskFull; // makes the save fail
-    bool closes;
-    bool saved;
-};
-
-class ClosingUnsaved : public ::testing::TestWithParam<CloseCase>, protected OpenedForm {
-protected:
-    ClosingUnsaved() : OpenedForm(kKinds[0]) {}
-};
-
-TEST_P(ClosingUnsaved, AsksWhetherToSaveAndClosesOnlyWhenTheLoadIsSafe)
+TEST(ClosingUnsaved, AsksWhetherToSaveAndClosesOnlyWhenTheLoadIsSafe)
 {
-    const std::string stored = rig.dir.read("Beech 1900D.cfg");
-    EXPECT_TRUE(form->Form_QueryUnload()) << "nothing to ask yet";
-    form->step("Heavy Load", [&] { static_cast<RegionalForm&>(*form).mnuheav_Click(); });
-    RecordingFileSystem disk{systemFiles()};
-    rig.session.files = Files(disk);
-    if (GetParam().diskFull)
-        disk.failWritesAfter(10);
-    rig.clock.set(TimeOfDay{9, 5});
-    rig.prompt.answerSave(GetParam().answer);
+    struct Case {
+        const char* what;
+        SaveChoice answer;
+        bool diskFull; // makes the save fail
+        bool closes;
+        bool saved;
+    };
+    for (const Case& c : {Case{"save", SaveChoice::Save, false, true, true},
+                          Case{"refused save", SaveChoice::Save, true, false, false},
+                          Case{"discard", SaveChoice::Discard, false, true, false},
+                          Case{"cancel", SaveChoice::Cancel, false, false, false}}) {
+        SCOPED_TRACE(c.what);
+        OpenedForm opened(kKinds[0]);
+        FormRig& rig = opened.rig;
+        LoadForm& form = *opened.form;
+        const std::string stored = rig.dir.read("Beech 1900D.cfg");
+        EXPECT_TRUE(form.Form_QueryUnload()) << "nothing to ask yet";
+        form.step("Heavy Load", [&] { preset<RegionalForm>(form, true); });
+        RecordingFileSystem disk{systemFiles()};
+        rig.session.files = Files(disk);
+        if (c.diskFull)
+            disk.failWritesAfter(10);
+        rig.clock.set(TimeOfDay{9, 5});
+        rig.prompt.answerSave(c.answer);
 
-    EXPECT_EQ(form->Form_QueryUnload(), GetParam().closes);
-    EXPECT_EQ(rig.prompt.saveQuestions().size(), 1u);
-    EXPECT_EQ(form->modified(), !GetParam().saved);
-    EXPECT_EQ(rig.dir.read("Beech 1900D.cfg"), GetParam().saved ? stationFile() : stored);
-    EXPECT_EQ(form->saves(), GetParam().saved ? 1 : 0);
-    if (GetParam().saved) {
-        EXPECT_EQ(formatTime(form->savedAt()), "09:05");
+        EXPECT_EQ(form.Form_QueryUnload(), c.closes);
+        EXPECT_EQ(rig.prompt.saveQuestions().size(), 1u);
+        EXPECT_EQ(form.modified(), !c.saved);
+        EXPECT_EQ(rig.dir.read("Beech 1900D.cfg"), c.saved ? opened.stationFile() : stored);
+        EXPECT_EQ(form.saves(), c.saved ? 1 : 0);
+        if (c.saved) {
+            EXPECT_EQ(formatTime(form.savedAt()), "09:05");
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Answers, ClosingUnsaved,
-                         ::testing::Values(CloseCase{"Save", SaveChoice::Save, false, true, true},
-                                           CloseCase{"RefusedSave", SaveChoice::Save, true, false, false},
-                                           CloseCase{"Discard", SaveChoice::Discard, false, true, false},
-                                           CloseCase{"Cancel", SaveChoice::Cancel, false, false, false}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(LoadFormHistoryOfJets, AnotherTypeStartsANewHistoryAndTheSameTypeKeepsIt)
 {
     OpenedForm opened(kKinds[2]);
-    opened.form->step("Heavy Load", [&] { static_cast<Boeing&>(*opened.form).mnuheav_Click(); });
+    opened.form->step("Heavy Load", [&] { preset<Boeing>(*opened.form, true); });
     opened.form->keepHistoryFor("B737-300");
     EXPECT_EQ(opened.form->undoName(), "Heavy Load");
     opened.form->keepHistoryFor("B757-200");

@@ -1,5 +1,6 @@
 #include "shell/Settings.h"
 
+#include "Golden.h"
 #include "ShellFixture.h"
 
 #include <gtest/gtest.h>
@@ -48,15 +49,6 @@ TEST(SettingsFile, TakesWhatFitsAndSaysWhatDidNot)
     };
     for (const auto& [text, read] : cases)
         EXPECT_EQ(summary(parseSettings(text, 21)), read) << text;
-
-    std::string many = "C:\\fs\r\n25\r\n";
-    for (int i = 0; i < 25; ++i)
-        many += "T" + std::to_string(i) + ",f" + std::to_string(i) + "\r\n";
-    const Settings over = parseSettings(many, 21);
-    EXPECT_EQ(over.entries.size(), 21u);
-    EXPECT_EQ(over.entries.back().type, "T20");
-    ASSERT_EQ(over.problems.size(), 1u);
-    EXPECT_NE(over.problems[0].find("lists 25 aircraft"), std::string::npos);
 }
 
 using StartUp = ShellFixture;
@@ -103,14 +95,7 @@ TEST_F(StartUp, MissingSettingsFileOffersEveryTypeInTheDialogAndSaysWhatToDoNext
                                         "DC-10-30F", "B727-212ADV", "B737-200ADV", "B737-300", "B757-200",
                                         "B757-200F", "B767-300ER", "DC-8-71F", "DC-9-30F", "MD-90-30"}));
     EXPECT_EQ(form1.form4().Combo2.text(), "Beech 1900D") << "ready for its folder";
-    EXPECT_EQ(
-        session.messages.pending(),
-        std::vector<std::string>{
-            "Quillet found no \"quillet.ini\" in \"" + dir.path().string() +
-            "\", so it starts with all its aircraft types waiting under \"Avaliable Aircraft\". Next, in the "
-            "configuration dialog, give the simulator folder (the one holding fs2000.exe), then choose each "
-            "aircraft you fly, type or browse to its folder and press \"Add\" when it appears; closing the "
-            "dialog saves the settings."});
+    expectGoldenMessages("settings-missing.txt", session.messages.pending(), dir.path());
     EXPECT_TRUE(form1.form4().visible) << "the configuration dialog is shown";
     EXPECT_FALSE(std::filesystem::exists(dir.path() / "quillet.ini")) << "nothing is written at start";
 }
@@ -151,26 +136,16 @@ TEST_F(StartUp, WhatTheSettingsFileHoldsIsNeverDroppedWithoutACopyAndAWord)
     struct Case {
         const char* what;
         std::string before, after;
-        std::string lost;
         int menu; // aircraft in the menu afterwards
     };
     const Case cases[] = {
-        {"not a number", sim + "\r\nabc\r\nB737-300,b737_300\r\n", sim + "\r\n0\r\n",
-         "holds \"abc\" on line 2", 0},
-        {"negative", sim + "\r\n-2\r\nB737-300,b737_300\r\n", sim + "\r\n0\r\n", "holds \"-2\" on line 2", 0},
+        {"not a number", sim + "\r\nabc\r\nB737-300,b737_300\r\n", sim + "\r\n0\r\n", 0},
+        {"negative", sim + "\r\n-2\r\nB737-300,b737_300\r\n", sim + "\r\n0\r\n", 0},
         {"a fraction", sim + "\r\n1.5\r\nB737-300,b737_300\r\nB757-200,b757\r\n",
-         sim + "\r\n1\r\nB737-300,b737_300\r\n", "holds \"1.5\" on line 2", 1},
-        {"a 22nd entry", many, first21, "holds \"22\" on line 2", 21},
+         sim + "\r\n1\r\nB737-300,b737_300\r\n", 1},
+        {"a 22nd entry", many, first21, 21},
     };
-    const std::string ini = (dir.path() / "quillet.ini").string();
-    const auto about = [](Session& session, const std::string& part) {
-        std::vector<std::string> found;
-        for (const auto& message : session.messages.take()) {
-            if (message.find(part) != std::string::npos)
-                found.push_back(message);
-        }
-        return found;
-    };
+    std::vector<std::string> said; // about each, what was dropped and where the copy is
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         std::filesystem::remove(dir.path() / "quillet.ini.bak");
@@ -180,24 +155,18 @@ TEST_F(StartUp, WhatTheSettingsFileHoldsIsNeverDroppedWithoutACopyAndAWord)
         main.Form_Load(); // the dialog's folder check stores the settings
         EXPECT_EQ(dir.ini(), c.after);
         EXPECT_EQ(dir.read("quillet.ini.bak"), c.before);
-        EXPECT_EQ(
-            about(run, "quillet.ini.bak"),
-            std::vector<std::string>{"The settings file \"" + ini + "\" " + c.lost +
-                                     ", which Quillet cannot keep as it stands. The file as it was is kept "
-                                     "as \"" +
-                                     ini + ".bak\", and \"" + ini +
-                                     "\" now holds the simulator "
-                                     "folder and the " +
-                                     std::to_string(c.menu) + " aircraft of Quillet's menu."});
+        for (const std::string& message : told("quillet.ini", run))
+            said.push_back(message);
 
         // Said once: the next start finds nothing to drop, a full menu of 21 included.
         Session next{prompt, random, clock, dir.path()};
         Form1 again{next, forms};
         again.Form_Load();
         EXPECT_EQ(next.state.nmenu, c.menu);
-        EXPECT_TRUE(about(next, "quillet.ini").empty());
+        EXPECT_TRUE(told("quillet.ini", next).empty());
         EXPECT_EQ(dir.read("quillet.ini.bak"), c.before);
     }
+    expectGoldenMessages("settings-dropped.txt", said, dir.path());
 }
 
 TEST_F(StartUp, SettingsFileThatIsNotOneIsRefusedWithAMessage)
@@ -217,14 +186,7 @@ TEST_F(StartUp, ASettingsFileThatIsNotTextStartsEmptyAndIsKeptAsACopy)
                             14);
     dir.write("quillet.ini", utf16);
     form1.Form_Load();
-    const std::string ini = (dir.path() / "quillet.ini").string();
-    EXPECT_EQ(
-        session.messages.take(),
-        std::vector<std::string>{
-            "The settings could not be read: \"" + ini +
-            "\" is saved as UTF-16 (Unicode) text, which Quillet cannot read; save it again as ANSI text. "
-            "Quillet starts with no aircraft and the simulator folder \"C:\\program files\\microsoft "
-            "games\\fs2000\"; set them in the configuration dialog, which saves them when it is closed."});
+    expectGoldenMessages("settings-utf16.txt", session.messages.take(), dir.path());
     form1.form4Window().close();
     EXPECT_EQ(dir.ini(), "C:\\program files\\microsoft games\\fs2000\r\n0\r\n");
     EXPECT_EQ(dir.read("quillet.ini.bak"), utf16);
@@ -268,33 +230,15 @@ TEST_F(StartUp, AnEntryThatCannotBeListedIsNamedOnceWithWhy)
     form1.mnuconfigair_Click(); // reads the file again
     EXPECT_EQ(form1.Combo1.items(), std::vector<std::string>{"B737-300"});
 
-    const auto notListed = [&](const std::string& type, const std::string& why) {
-        return "\"" + type + "\" is not in the aircraft list: " + why +
-               ". Put the aircraft's aircraft.cfg there, or give \"" + type +
-               "\" its folder in the configuration dialog.";
-    };
-    const auto folder = [&](const std::string& name) { return dir.sim() + "\\aircraft\\" + name; };
-    std::vector<std::string> expected{
-        notListed("DHC-8-300", "its folder \"" + folder("dash8") + "\" holds no aircraft.cfg"),
-        notListed("MD-90-30", "the aircraft.cfg in \"" + folder("md90") + "\" is a folder, not a file"),
-        notListed("Beech 1900D", "\"" + folder("beech") + "\" is a file, not a folder")};
+    std::vector<std::string> said = told("is not in the aircraft list");
 #ifndef _WIN32
-    expected.push_back(
-        notListed("B757-200", "the aircraft.cfg in \"" + folder("b757") + "\" is not a plain file"));
+    ASSERT_FALSE(said.empty());
+    EXPECT_NE(said.back().find("b757\" is not a plain file"), std::string::npos) << said.back();
+    said.pop_back();
 #endif
-    EXPECT_EQ(told("is not in the aircraft list"), expected);
-
-    const std::string ini = (dir.path() / "quillet.ini").string();
-    const auto named = [&](const std::string& folder, const std::string& type) {
-        return "The aircraft folder \"" + folder + "\" of \"" + type + "\" in \"" + ini +
-               "\" is not a single folder name, so \"" + type +
-               "\" is not listed. Give it the name of its folder "
-               "inside \"" +
-               dir.sim() + "\\aircraft\" in the configuration dialog.";
-    };
-    EXPECT_EQ(told("is not a single folder name"),
-              (std::vector<std::string>{named("..\\..\\outside", "CRJ-200ER"),
-                                        named("../../outside", "DC-9-30F"), named(absolute, "DC-8-71F")}));
+    for (const std::string& message : told("is not a single folder name"))
+        said.push_back(message);
+    expectGoldenMessages("settings-not-listed.txt", said, dir.path());
 
     // Nor can the dialog take such a name.
     Form4& dialog = form1.form4();
