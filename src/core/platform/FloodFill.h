@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Canvas.h"
-
 #include <algorithm>
 #include <cstdint>
 #include <functional>
@@ -82,20 +80,5 @@ void floodRuns(int width, int height, int x, int y, IsBorder&& isBorder, OnRun&&
 // pixel.
 std::vector<bool> floodRegion(int width, int height, int x, int y,
                               const std::function<bool(int, int)>& isBorder);
-
-// Whether a pixel of an area filled with the given style takes the fill colour; the diagonal
-// cross is the 8-pixel hatch of the old toolkit, anchored at the picture's origin.
-constexpr bool takesFill(FillStyle style, int x, int y)
-{
-    switch (style) {
-    case FillStyle::Solid:
-        return true;
-    case FillStyle::Transparent:
-        return false;
-    case FillStyle::DiagonalCross:
-        return ((x + y) & 7) == 0 || ((x - y) & 7) == 0;
-    }
-    return false;
-}
 
 } // namespace quillet

@@ -26,17 +26,6 @@ constexpr int kStations = 43;
 // The payload the zero-fuel weight allows, shared out over the stations' maxima.
 constexpr double kShare = (400160.0 - 237594.0) / 329450.0;
 
-void press(FreighterRig& rig, double x, double y)
-{
-    rig.form->Picture1_MouseDown(DC10F::kLeftButton, 0, x, y);
-}
-
-void pressStation(FreighterRig& rig, int station, int button = DC10F::kLeftButton)
-{
-    const LoadState& state = rig.session.state;
-    rig.form->Picture1_MouseDown(button, 0, state.stationpx[station], state.stationpy[station]);
-}
-
 // The box last drawn for a container: the one whose top-left corner lies where its station's box goes.
 DrawOp containerBox(FreighterRig& rig, int station)
 {
@@ -59,6 +48,16 @@ void load(LoadState& state, int first, int last, float weight)
     state.loadweight = state.sumOfWeights();
 }
 
+// The DC-10-30F's form opened the way "Adjust" opens it.
+class DC10FForm : public ::testing::Test {
+protected:
+    void pressAt(double x, double y) { form.Picture1_MouseDown(DC10F::kLeftButton, 0, x, y); }
+
+    FreighterRig rig;
+    DC10F& form = rig.open();
+    LoadState& state = rig.session.state;
+};
+
 // The golden table of the first run checks every station; this is what the form shows of it.
 TEST(DC10FTable, OpeningShowsTheTypeEmptyAndAMissingPictureStaysBlank)
 {
@@ -76,17 +75,14 @@ TEST(DC10FTable, OpeningShowsTheTypeEmptyAndAMissingPictureStaysBlank)
     EXPECT_TRUE(rig.open().photo.empty());
 }
 
-TEST(DC10FMouse, OverlappingContainersAskOneAfterTheOtherAndSeparatePairsDoNot)
+TEST_F(DC10FForm, OverlappingContainersAskOneAfterTheOtherAndSeparatePairsDoNot)
 {
-    FreighterRig rig;
-    DC10F& form = rig.open();
-    LoadState& state = rig.session.state;
     const auto& asked = rig.prompt.asked();
 
     // C1L and C1R are 271 twips apart with 200 twips either side: between them both are hit.
     rig.prompt.answer("1000");
     rig.prompt.answer("1200");
-    press(rig, 6515, 1622);
+    pressAt(6515, 1622);
     ASSERT_EQ(asked.size(), 2u);
     EXPECT_EQ(rig.question(0), std::tuple("Container C1L weight in lbs", "Pax Details", "1300"));
     EXPECT_EQ(asked[1].prompt, "Container C1R weight in lbs");
@@ -97,7 +93,7 @@ TEST(DC10FMouse, OverlappingContainersAskOneAfterTheOtherAndSeparatePairsDoNot)
     EXPECT_EQ(form.labels.lblpax.text, "PAX weight =  2200 lb.");
 
     // A second press there empties both without a question.
-    press(rig, 6515, 1622);
+    pressAt(6515, 1622);
     EXPECT_EQ(asked.size(), 2u);
     EXPECT_EQ(
         std::tuple(state.stationweight[kContainerC1L], state.stationweight[kContainerC1R], state.loadweight),
@@ -105,56 +101,50 @@ TEST(DC10FMouse, OverlappingContainersAskOneAfterTheOtherAndSeparatePairsDoNot)
 
     // 1L and 1R are 416 apart: 199 twips below 1L only 1L is hit, and half-way neither.
     rig.prompt.answer("3500");
-    press(rig, 2329, 468 + 199);
+    pressAt(2329, 468 + 199);
     ASSERT_EQ(asked.size(), 3u);
     EXPECT_EQ(std::tie(asked[2].prompt, asked[2].defaultText),
               std::tuple("Container 1L weight in lbs", "3500"));
     EXPECT_EQ(state.stationweight[kContainer1R], 0);
-    press(rig, 2329, 676);
-    press(rig, 2329 + 200, 468); // the squares are open: 200 twips off is outside
+    pressAt(2329, 676);
+    pressAt(2329 + 200, 468); // the squares are open: 200 twips off is outside
     EXPECT_EQ(asked.size(), 3u);
     EXPECT_EQ(state.stationweight[kContainer1L], 3500);
 }
 
-TEST(DC10FMouse, StationsOfferFortyPercentOfTheirMaximumAndOnlyTheLeftButtonLoads)
+TEST_F(DC10FForm, StationsOfferFortyPercentOfTheirMaximumAndOnlyTheLeftButtonLoads)
 {
-    FreighterRig rig;
-    rig.open();
-    LoadState& state = rig.session.state;
     const auto& asked = rig.prompt.asked();
     for (int station : {kPilot, kContainer6L, kContainer12}) {
         rig.prompt.cancel();
-        pressStation(rig, station);
+        rig.press(station);
     }
     ASSERT_EQ(asked.size(), 3u);
     EXPECT_EQ(std::tie(asked[0].prompt, asked[0].defaultText), std::tuple("Pilot weight in lbs", "0"));
     EXPECT_EQ(asked[1].defaultText, "5900");
     EXPECT_EQ(asked[2].defaultText, "3700");
 
-    pressStation(rig, kContainerA, DC10F::kRightButton);
+    rig.press(kContainerA, DC10F::kRightButton);
     EXPECT_EQ(asked.size(), 3u);
     rig.prompt.answer("lots");
-    pressStation(rig, kContainerA);
+    rig.press(kContainerA);
     EXPECT_EQ(state.stationweight[kContainerA], 0);
     rig.prompt.answer("180 lb");
-    pressStation(rig, kPilot);
+    rig.press(kPilot);
     EXPECT_EQ(state.stationweight[kPilot], 180);
     EXPECT_EQ(state.loadweight, 180);
 
     // A negative weight is kept but not counted; emptying the station takes it off the total.
     rig.prompt.answer("-40");
-    pressStation(rig, kContainerA);
+    rig.press(kContainerA);
     EXPECT_EQ(std::tuple(state.stationweight[kContainerA], state.loadweight), std::tuple(-40.0f, 180.0f));
-    pressStation(rig, kContainerA);
+    rig.press(kContainerA);
     EXPECT_EQ(std::tuple(state.stationweight[kContainerA], state.loadweight), std::tuple(0.0f, 220.0f));
     EXPECT_EQ(rig.form->labels.lblpass.text, "Containers  0 / 38") << "crew seats are no containers";
 }
 
-TEST(DC10FMouse, ALoadedContainerShowsItsWeightBesideItWhileThePointerRestsOnIt)
+TEST_F(DC10FForm, ALoadedContainerShowsItsWeightBesideItWhileThePointerRestsOnIt)
 {
-    FreighterRig rig;
-    DC10F& form = rig.open();
-    LoadState& state = rig.session.state;
     const std::size_t emptyBoxes = rig.picture().ops(DrawOp::Kind::Box).size();
     const auto moveTo = [&](double x, double y) {
         rig.picture().forget();
@@ -185,11 +175,8 @@ TEST(DC10FMouse, ALoadedContainerShowsItsWeightBesideItWhileThePointerRestsOnIt)
     EXPECT_EQ(rig.picture().ops(DrawOp::Kind::Box).size(), emptyBoxes);
 }
 
-TEST(DC10FLimits, AContainerAboveItsMaximumIsDrawnRedAndNamedAtTheTop)
+TEST_F(DC10FForm, AContainerAboveItsMaximumIsDrawnRedAndNamedAtTheTop)
 {
-    FreighterRig rig;
-    DC10F& form = rig.open();
-    LoadState& state = rig.session.state;
     for (const auto& [weight, message, colour] :
          {std::tuple(8800.0f, "", kGreen), std::tuple(8800.5f, "Container Overload", kRed)}) {
         load(state, kContainer1L, kContainer1L, weight);
@@ -209,11 +196,8 @@ TEST(DC10FLimits, AContainerAboveItsMaximumIsDrawnRedAndNamedAtTheTop)
     EXPECT_EQ(rig.picture().foreColor(), kBlack);
 }
 
-TEST(DC10FLimits, AnOverloadedZoneMarksAllItsContainersButOnlyLoadedOnesTurnRed)
+TEST_F(DC10FForm, AnOverloadedZoneMarksAllItsContainersButOnlyLoadedOnesTurnRed)
 {
-    FreighterRig rig;
-    DC10F& form = rig.open();
-    LoadState& state = rig.session.state;
     // 1L to 4R: eight containers of 6250 lb, exactly zone 1's 50000 lb.
     load(state, 0, 7, 6250);
     form.cargocheck();
@@ -241,11 +225,8 @@ TEST(DC10FLimits, AnOverloadedZoneMarksAllItsContainersButOnlyLoadedOnesTurnRed)
         EXPECT_EQ(state.stationmsg[i], i == kContainerC5R ? "Container Overload" : "") << i;
 }
 
-TEST(DC10FLimits, TheNoteNamesTheHighestNumberedLoadedContainerWithABrokenLimit)
+TEST_F(DC10FForm, TheNoteNamesTheHighestNumberedLoadedContainerWithABrokenLimit)
 {
-    FreighterRig rig;
-    DC10F& form = rig.open();
-    LoadState& state = rig.session.state;
     const auto check = [&] {
         form.cargocheck();
         form.redraw();
@@ -277,11 +258,8 @@ TEST(DC10FLimits, TheNoteNamesTheHighestNumberedLoadedContainerWithABrokenLimit)
     }
 }
 
-TEST(DC10FPresets, LightLoadEmptiesTheCrewAndGivesEachContainerItsShareBeforeTheExchange)
+TEST_F(DC10FForm, LightLoadEmptiesTheCrewAndGivesEachContainerItsShareBeforeTheExchange)
 {
-    FreighterRig rig;
-    DC10F& form = rig.open();
-    LoadState& state = rig.session.state;
     state.stationweight[kPilot] = 180;
     state.stationweight[400] = 50;
 
@@ -301,11 +279,8 @@ TEST(DC10FPresets, LightLoadEmptiesTheCrewAndGivesEachContainerItsShareBeforeThe
     }
 }
 
-TEST(DC10FPresets, TheHeaviestPositionsMoveToTheCentreButContainer9LIsPassedOver)
+TEST_F(DC10FForm, TheHeaviestPositionsMoveToTheCentreButContainer9LIsPassedOver)
 {
-    FreighterRig rig;
-    DC10F& form = rig.open();
-    LoadState& state = rig.session.state;
     for (int i = 0; i < kStations; ++i)
         rig.random.push(i == kContainer9L ? 0.99 : i == kContainer9R ? 0.98 : 0);
     form.mnulight_Click();
@@ -340,11 +315,8 @@ TEST(DC10FPresets, NoPresetBreaksALimitAndTheTotalIsTheSum)
     }
 }
 
-TEST(DC10FPresets, HeavyLoadKeepsTheMarksOfTheLastCheckAndWhatLiesBeyondTheStations)
+TEST_F(DC10FForm, HeavyLoadKeepsTheMarksOfTheLastCheckAndWhatLiesBeyondTheStations)
 {
-    FreighterRig rig;
-    DC10F& form = rig.open();
-    LoadState& state = rig.session.state;
     load(state, kContainer1R, kContainer1R, 9000);
     form.cargocheck();
     state.stationweight[400] = 50;
@@ -361,20 +333,17 @@ TEST(DC10FPresets, HeavyLoadKeepsTheMarksOfTheLastCheckAndWhatLiesBeyondTheStati
     EXPECT_EQ(form.overloadNote, "Container Overload");
 }
 
-TEST(DC10FFiles, SavingWritesEveryStationUnderACargoHeading)
+TEST_F(DC10FForm, SavingWritesEveryStationUnderACargoHeading)
 {
-    FreighterRig rig;
-    DC10F& form = rig.open();
     rig.prompt.answer("3500");
-    pressStation(rig, kContainer1L);
+    rig.press(kContainer1L);
     rig.prompt.answer("180");
-    pressStation(rig, kPilot);
+    rig.press(kPilot);
     form.mnusave_Click();
     expectGoldenFile("DC-10-30F.aircraft.cfg", rig.aircraftCfg("DC-10-30F"));
 
     // The station file brings the load back on the next opening.
     rig.open();
-    const LoadState& state = rig.session.state;
     EXPECT_EQ(std::tuple(state.stationweight[kContainer1L], state.stationweight[kPilot], state.loadweight),
               std::tuple(3500.0f, 180.0f, 3680.0f));
 }

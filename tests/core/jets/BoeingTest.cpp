@@ -20,11 +20,13 @@ constexpr int kPilot = 128;
 constexpr int kForwardHold = 134;
 constexpr int kAftHold = 135;
 
-void press(JetRig& rig, int station, int button = Boeing::kLeftButton)
-{
-    const LoadState& state = rig.session.state;
-    rig.form->Picture1_MouseDown(button, 0, state.stationpx[station], state.stationpy[station]);
-}
+// The B737-300's form opened the way "Adjust" opens it.
+class B737Form : public ::testing::Test {
+protected:
+    JetRig rig;
+    Boeing& form = rig.open("B737-300");
+    LoadState& state = rig.session.state;
+};
 
 TEST(JetForm, OpeningSetsTheTypeUpAfreshAndAMissingPictureStaysBlank)
 {
@@ -38,7 +40,6 @@ TEST(JetForm, OpeningSetsTheTypeUpAfreshAndAMissingPictureStaysBlank)
     EXPECT_EQ(state.stationweight[400], 0);
     EXPECT_EQ(form.caption, "B737-300");
     EXPECT_EQ(form.labels.lblpass.text, "Passengers  0 / 128");
-    EXPECT_FALSE(rig.dir.read("B737-300.cfg").empty()) << "the first run writes the station file";
     EXPECT_TRUE(form.photo.empty()) << "the message is the session's, told once";
 
     // Setting the type up again gives the same table, leaves the weights and clears the marks.
@@ -60,11 +61,8 @@ TEST(JetForm, OpeningSetsTheTypeUpAfreshAndAMissingPictureStaysBlank)
     EXPECT_EQ(rig.open("B737-200ADV").photo.filename(), "B737-200ADV.gif");
 }
 
-TEST(JetMouse, ALeftClickAsksForAnEmptySeatAndEmptiesAnOccupiedOne)
+TEST_F(B737Form, ALeftClickAsksForAnEmptySeatAndEmptiesAnOccupiedOne)
 {
-    JetRig rig;
-    Boeing& form = rig.open("B737-300");
-    LoadState& state = rig.session.state;
     state.stationweight[kSeat3C] = -20;
     rig.picture().forget();
     form.redraw();
@@ -73,15 +71,15 @@ TEST(JetMouse, ALeftClickAsksForAnEmptySeatAndEmptiesAnOccupiedOne)
     state.stationweight[kSeat3C] = 0;
 
     rig.prompt.answer("180");
-    press(rig, kSeat3C);
+    rig.press(kSeat3C);
     ASSERT_EQ(rig.prompt.asked().size(), 1u);
     EXPECT_EQ(rig.question(0), std::tuple("Passenger 3C weight in lbs", "Pax Details", "170"));
     EXPECT_EQ(state.stationweight[kSeat3C], 180);
     EXPECT_EQ(state.loadweight, 180);
     EXPECT_EQ(form.labels.lblpass.text, "Passengers  1 / 128");
     rig.prompt.answer("170");
-    press(rig, kFirstClass1A);
-    press(rig, kSeat3C);
+    rig.press(kFirstClass1A);
+    rig.press(kSeat3C);
     EXPECT_EQ(rig.prompt.asked().size(), 2u);
     EXPECT_EQ(state.stationweight[kSeat3C], 0);
     EXPECT_EQ(state.loadweight, 170);
@@ -101,43 +99,37 @@ TEST(JetMouse, ALeftClickAsksForAnEmptySeatAndEmptiesAnOccupiedOne)
               std::tuple(150.0f, 0.0f));
 }
 
-TEST(JetMouse, OtherButtonsLoadOnlyHoldsAndBadAnswersLeaveStationsEmpty)
+TEST_F(B737Form, OtherButtonsLoadOnlyHoldsAndBadAnswersLeaveStationsEmpty)
 {
-    JetRig rig;
-    rig.open("B737-300");
-    LoadState& state = rig.session.state;
-    press(rig, kSeat3C, Boeing::kRightButton);
+    rig.press(kSeat3C, Boeing::kRightButton);
     EXPECT_TRUE(rig.prompt.asked().empty());
 
     rig.prompt.answer("1500 lb");
-    press(rig, kForwardHold, Boeing::kRightButton);
+    rig.press(kForwardHold, Boeing::kRightButton);
     ASSERT_EQ(rig.prompt.asked().size(), 1u);
     EXPECT_EQ(rig.question(0), std::tuple("Lower Deck Cargo Forward weight in lbs", "Cargo details", "1000"));
     EXPECT_EQ(state.stationweight[kForwardHold], 1500);
 
     rig.prompt.cancel();
-    press(rig, kAftHold);
+    rig.press(kAftHold);
     EXPECT_EQ(state.stationweight[kAftHold], 0);
     for (const char* answer : {"heavy", "1e300"}) {
         rig.prompt.answer(answer);
-        press(rig, kSeat3C);
+        rig.press(kSeat3C);
         EXPECT_EQ(state.stationweight[kSeat3C], 0) << answer;
     }
     // A negative weight is kept and counted; the next click empties the seat.
     rig.prompt.answer("-40");
-    press(rig, kSeat3C);
+    rig.press(kSeat3C);
     EXPECT_EQ(state.stationweight[kSeat3C], -40);
     EXPECT_EQ(state.loadweight, 1460);
-    press(rig, kSeat3C);
+    rig.press(kSeat3C);
     EXPECT_EQ(state.stationweight[kSeat3C], 0);
     EXPECT_EQ(state.loadweight, 1500);
 }
 
-TEST(JetMouse, HoverLabelNamesALoadedStationBesideIt)
+TEST_F(B737Form, HoverLabelNamesALoadedStationBesideIt)
 {
-    JetRig rig;
-    Boeing& form = rig.open("B737-300");
-    LoadState& state = rig.session.state;
     state.stationweight[kFirstClass1A] = 170;
     form.Picture1_MouseMove(0, 0, 3045 + 50, 854 - 50);
     const DrawOp label = rig.picture().ops(DrawOp::Kind::Text).back();
@@ -155,22 +147,19 @@ TEST(JetMouse, HoverLabelNamesALoadedStationBesideIt)
     }
 }
 
-TEST(JetCargo, AnAftHoldAboveItsMaximumIsHatchedRedAndSaysSo)
+TEST_F(B737Form, AnAftHoldAboveItsMaximumIsHatchedRedAndSaysSo)
 {
-    JetRig rig;
-    Boeing& form = rig.open("B737-300");
-    LoadState& state = rig.session.state;
     rig.prompt.answer("5168");
-    press(rig, kAftHold);
+    rig.press(kAftHold);
     EXPECT_EQ(state.stationmsg[kAftHold], "");
     // Filled from the hold's point (6387.5 twips, halves to even 6388; 1470) in pixels, bounded by black.
     const DrawOp fill = rig.picture().ops(DrawOp::Kind::FloodFill).back();
     EXPECT_EQ(std::tuple(fill.fillColor, fill.fillStyle, fill.x1, fill.y1, fill.colour),
               std::tuple(kGreen, FillStyle::DiagonalCross, 426.0, 98.0, kBlack));
 
-    press(rig, kAftHold);
+    rig.press(kAftHold);
     rig.prompt.answer("5168.5");
-    press(rig, kAftHold);
+    rig.press(kAftHold);
     EXPECT_EQ(state.stationmsg[kAftHold], " Zone Overload");
     EXPECT_EQ(rig.picture().ops(DrawOp::Kind::FloodFill).back().fillColor, kRed);
 
@@ -184,11 +173,8 @@ TEST(JetCargo, AnAftHoldAboveItsMaximumIsHatchedRedAndSaysSo)
     EXPECT_DOUBLE_EQ(label.x1, 6388 - 52.5 - width);
 }
 
-TEST(JetCount, PassengersAreLoadedSeatsAndContainersLoadedMainDeckCargo)
+TEST_F(B737Form, PassengersAreLoadedSeatsAndContainersLoadedMainDeckCargo)
 {
-    JetRig rig;
-    Boeing& form = rig.open("B737-300");
-    LoadState& state = rig.session.state;
     state.stationweight[kFirstClass1A] = 170;
     state.stationweight[kSeat3C] = -5;
     state.stationweight[kPilot] = 190;
@@ -224,11 +210,8 @@ TEST(JetEmpty, EmptyAircraftKeepsTheCrewAndEmptiesSeatsAndHolds)
     }
 }
 
-TEST(JetPresets, LightSeatsAThirdOfTheFirstDrawAndLoadsTheHolds)
+TEST_F(B737Form, LightSeatsAThirdOfTheFirstDrawAndLoadsTheHolds)
 {
-    JetRig rig;
-    Boeing& form = rig.open("B737-300");
-    LoadState& state = rig.session.state;
     state.stationweight[kPilot] = 185;
     // 0.1344 × 128 / 3 = 5.73: five passengers, each a weight and a seat draw; then the two holds.
     for (double draw : {0.1344, 0.5, 0.0, 0.5, 0.1, 0.5, 0.2, 0.5, 0.3, 0.5, 0.4, 0.5, 0.25})

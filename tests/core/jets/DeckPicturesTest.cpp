@@ -3,75 +3,19 @@
 // tests/data checked against the type's published drawing (outline, cabin fittings, seats and
 // containers, headings, hold labels; every regional seat and hold drawn under its station's hot spot).
 
+#include "DrawOpText.h"
 #include "Golden.h"
 #include "JetRig.h"
 #include "TypeName.h"
 #include "core/regional/RegionalRig.h"
 #include "regional/CabinDrawing.h"
 
-#include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <gtest/gtest.h>
-#include <sstream>
 #include <string>
 #include <vector>
 
 namespace quillet {
 namespace {
-
-// Twips to the hundredth, rounded in integers so that every platform writes the same digits.
-std::string twips(double value)
-{
-    const long long hundredths = std::llround(value * 100);
-    char text[32];
-    std::snprintf(text, sizeof text, "%s%lld.%02lld", hundredths < 0 ? "-" : "", std::llabs(hundredths) / 100,
-                  std::llabs(hundredths) % 100);
-    return text;
-}
-
-std::string colour(Rgb c)
-{
-    char text[8];
-    std::snprintf(text, sizeof text, "#%02x%02x%02x", c.r, c.g, c.b);
-    return text;
-}
-
-std::string describe(const std::vector<DrawOp>& ops)
-{
-    static const char* const fills[] = {"solid", "transparent", "cross"};
-    std::ostringstream out;
-    for (const DrawOp& op : ops) {
-        const std::string fill =
-            std::string(fills[static_cast<int>(op.fillStyle)]) + " " + colour(op.fillColor);
-        switch (op.kind) {
-        case DrawOp::Kind::Clear:
-            out << "clear\n";
-            break;
-        case DrawOp::Kind::Line:
-            out << "line " << twips(op.x1) << " " << twips(op.y1) << " " << twips(op.x2) << " "
-                << twips(op.y2) << " " << colour(op.colour) << "\n";
-            break;
-        case DrawOp::Kind::Box:
-            out << "box " << twips(op.x1) << " " << twips(op.y1) << " " << twips(op.x2) << " " << twips(op.y2)
-                << " " << colour(op.colour) << " " << fill << "\n";
-            break;
-        case DrawOp::Kind::Circle:
-            out << "circle " << twips(op.x1) << " " << twips(op.y1) << " r " << twips(op.radius) << " "
-                << colour(op.colour) << " " << fill << "\n";
-            break;
-        case DrawOp::Kind::FloodFill:
-            out << "flood fill pixel " << op.x1 << " " << op.y1 << " up to " << colour(op.colour) << " "
-                << fill << "\n";
-            break;
-        case DrawOp::Kind::Text:
-            out << "text " << twips(op.x1) << " " << twips(op.y1) << " \"" << op.text << "\" " << op.fontSize
-                << (op.bold ? " bold " : " ") << colour(op.foreColor) << "\n";
-            break;
-        }
-    }
-    return out.str();
-}
 
 void loadEveryOtherStation(LoadState& state)
 {

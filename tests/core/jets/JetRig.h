@@ -49,6 +49,13 @@ public:
 
     RecordingCanvas& picture() { return static_cast<RecordingCanvas&>(form->Picture1()); }
 
+    // A press on the station's place on the deck.
+    void press(int station, int button = Form::kLeftButton)
+    {
+        form->Picture1_MouseDown(button, 0, session.state.stationpx[station],
+                                 session.state.stationpy[station]);
+    }
+
     std::unique_ptr<Form> form;
 };
 

@@ -57,6 +57,16 @@ std::vector<int> stationsOf(const StationGroups& groups, StationRole role)
     return stations;
 }
 
+// Only the members a test sets; the rest keep their defaults.
+PlanRequest planRequest(int passengers, std::optional<float> cargo, std::optional<float> zeroFuelWeight = {})
+{
+    PlanRequest r;
+    r.passengers = passengers;
+    r.cargo = cargo;
+    r.zeroFuelWeight = zeroFuelWeight;
+    return r;
+}
+
 // Whether some arrangement of the request is in balance, shown by finding one. Seats: blocks of
 // `passengers` consecutive seats in order of position; cargo: any mix of a fill from the nose and a
 // fill from the tail, each station to its limit and each group to its own.
@@ -199,9 +209,8 @@ TEST_P(PlanOnEveryType, MeetsTheRequestWithinEveryLimitAndBalancesWhenAnyArrange
         const double room = std::min<double>(
             bounds.maxCargo, std::floor(bounds.maxZeroFuel - bounds.fixedWeight - 170.0 * passengers));
         for (int c = 0; c <= 10 && room >= 0; ++c)
-            requests.push_back(
-                {.passengers = passengers, .cargo = static_cast<float>(std::floor(room * c / 10))});
-        requests.push_back({.passengers = passengers, .zeroFuelWeight = bounds.maxZeroFuel - p * 100.0f});
+            requests.push_back(planRequest(passengers, static_cast<float>(std::floor(room * c / 10))));
+        requests.push_back(planRequest(passengers, std::nullopt, bounds.maxZeroFuel - p * 100.0f));
     }
 
     int balanced = 0;
@@ -239,7 +248,7 @@ TEST(PlanSeating, FillsRowsTogetherAndPairsAcrossTheAisle)
     TypeRig rig{"B737-300"};
     const LoadState& state = rig.state();
     for (int passengers : {24, 60, 97}) {
-        const Result<Plan> plan = planLoad(state, rig.groups, {.passengers = passengers, .cargo = 3000});
+        const Result<Plan> plan = planLoad(state, rig.groups, planRequest(passengers, 3000));
         ASSERT_TRUE(plan) << plan.error().message;
         EXPECT_TRUE(plan->cg.inBalance);
         std::map<float, std::pair<int, int>> rows; // x: seats taken, seats
@@ -281,8 +290,7 @@ TEST_P(PlanOutcome, BalancesOrNamesTheLimitAndTheExcess)
     TypeRig rig{o.type};
     const int passengers = o.passengers < 0 ? planBounds(rig.state(), rig.groups).seats : o.passengers;
     const Result<Plan> plan =
-        planLoad(rig.state(), rig.groups,
-                 {.passengers = passengers, .cargo = o.cargo, .zeroFuelWeight = o.zeroFuelWeight});
+        planLoad(rig.state(), rig.groups, planRequest(passengers, o.cargo, o.zeroFuelWeight));
     if (o.refusal) {
         ASSERT_FALSE(plan);
         EXPECT_EQ(plan.error().message, o.refusal);

@@ -57,15 +57,5 @@ TEST(FloodFill, FillsTheRegionUpToTheBorderAndNeverThroughIt)
     EXPECT_EQ(filled(1, 1), "") << "starting on the border";
 }
 
-TEST(FloodFill, DiagonalCrossHatch)
-{
-    EXPECT_TRUE(takesFill(FillStyle::DiagonalCross, 0, 0));
-    EXPECT_TRUE(takesFill(FillStyle::DiagonalCross, 3, 5));
-    EXPECT_TRUE(takesFill(FillStyle::DiagonalCross, 4, 4));
-    EXPECT_FALSE(takesFill(FillStyle::DiagonalCross, 1, 0));
-    EXPECT_TRUE(takesFill(FillStyle::Solid, 1, 0));
-    EXPECT_FALSE(takesFill(FillStyle::Transparent, 0, 0));
-}
-
 } // namespace
 } // namespace quillet

@@ -13,15 +13,17 @@ constexpr int kBeechPassenger1A = 3;
 constexpr int kBeechHold = 22;
 
 // The golden table of the first run checks every station; these are what the form makes of it.
-TEST(RegionalSetUp, ClearsWhatAnotherTypeLeftAndShowsEveryStationEmpty)
+TEST(RegionalSetUp, ClearsWhatAnotherTypeLeftShowsEveryStationEmptyAndCountsOnlyPassengers)
 {
     struct Expected {
         const RegionalType& type;
         int stations;
         int maxpax;
+        int firstPassenger;
         float x40; // station 40's position: a seat of the DHC-8-300, cleared by the others
     };
-    const Expected all[] = {{beechType(), 23, 19, 0}, {emb120Type(), 33, 30, 0}, {dhc8Type(), 53, 50, -9.5f}};
+    const Expected all[] = {
+        {beechType(), 23, 19, 3, 0}, {emb120Type(), 33, 30, 2, 0}, {dhc8Type(), 53, 50, 2, -9.5f}};
     for (const Expected& expected : all) {
         SCOPED_TRACE(expected.type.form);
         RegionalRig rig;
@@ -41,6 +43,15 @@ TEST(RegionalSetUp, ClearsWhatAnotherTypeLeftAndShowsEveryStationEmpty)
             EXPECT_FALSE(form.Shape1[i].visible);
         }
         EXPECT_EQ(form.labels.lblpass.text, "Passengers  0 / " + std::to_string(expected.maxpax));
+
+        const int first = expected.firstPassenger;
+        for (int station = 0; station < expected.stations; ++station) {
+            rig.prompt.answer("100");
+            form.location_Click(station);
+            ASSERT_EQ(state.npax, std::clamp(station, first - 1, first + expected.maxpax - 1) - first + 1)
+                << "after station " << station;
+            ASSERT_EQ(state.loadweight, rig.sumOfWeights());
+        }
     }
 }
 
@@ -55,7 +66,7 @@ TEST(RegionalSetUp, MarkersAreGreenDiscsOnSeatsAndHatchedBoxesOnHolds)
     EXPECT_EQ(std::tuple(seat.fillStyle, seat.fillColor), std::tuple(FillStyle::Solid, kGreen));
 }
 
-TEST(RegionalSetUp, OnlyTheBeechShowsItsStoredLoadWhileSettingUp)
+TEST(RegionalSetUp, OnlyTheBeechShowsItsStoredLoadWhileSettingUpAndRefreshesTheMainWindowOnLeaving)
 {
     for (const RegionalType* type : regionalTypes()) {
         SCOPED_TRACE(type->form);
@@ -71,21 +82,9 @@ TEST(RegionalSetUp, OnlyTheBeechShowsItsStoredLoadWhileSettingUp)
         form.mnuload_Click();
         EXPECT_EQ(form.location[5].tooltip, rig.session.state.stationname[5] + " 170 lb.");
         EXPECT_TRUE(form.Shape1[5].visible);
+        form.Form_LostFocus();
+        EXPECT_EQ(rig.mainRefreshes, type == &beechType() ? 1 : 0);
     }
-}
-
-TEST(RegionalSetUp, AMissingPhotographLeavesItsPictureBlank)
-{
-    RegionalRig rig;
-    EXPECT_EQ(rig.open(emb120Type()).photo, rig.dir.path() / "emb120.gif");
-
-    std::filesystem::remove(rig.dir.path() / "dhc8.gif");
-    RegionalForm& form = rig.open(dhc8Type());
-    EXPECT_TRUE(form.photo.empty());
-
-    rig.prompt.answer("170");
-    form.location_Click(2);
-    EXPECT_EQ(form.location[2].tooltip, "Passenger 1A 170 lb.");
 }
 
 TEST(RegionalSeatClick, AsksForAnEmptySeatsWeightAndEmptiesAnOccupiedSeatWithoutAsking)
@@ -163,32 +162,11 @@ TEST(RegionalSeatClick, HoldAndAvionicsBayAreEditedLikeSeats)
     EXPECT_FALSE(form.Shape1[kBeechHold].visible);
 }
 
-TEST(RegionalSeatClick, ExactlyThePassengerSeatsCount)
-{
-    struct Seats {
-        const RegionalType& type;
-        int stations, firstPassenger, lastPassenger;
-    };
-    const Seats all[] = {{beechType(), 23, 3, 21}, {emb120Type(), 33, 2, 31}, {dhc8Type(), 53, 2, 51}};
-    for (const Seats& seats : all) {
-        SCOPED_TRACE(seats.type.form);
-        RegionalRig rig;
-        RegionalForm& form = rig.open(seats.type);
-        for (int station = 0; station < seats.stations; ++station) {
-            rig.prompt.answer("100");
-            form.location_Click(station);
-            const int passengers =
-                std::clamp(station, seats.firstPassenger - 1, seats.lastPassenger) - seats.firstPassenger + 1;
-            ASSERT_EQ(rig.session.state.npax, passengers) << "after station " << station;
-            ASSERT_EQ(rig.session.state.loadweight, rig.sumOfWeights());
-        }
-    }
-}
-
 TEST(RegionalForm, RedrawFollowsTheWeightsAndStationsBeyondTheFormAreLeftAlone)
 {
     RegionalRig rig;
     RegionalForm& form = rig.open(emb120Type());
+    EXPECT_EQ(form.photo, rig.dir.path() / "emb120.gif");
     rig.prompt.answer("170");
     form.location_Click(2);
     form.location_Click(-1);
@@ -221,15 +199,6 @@ TEST(RegionalCabin, TheFormDrawsItsCabinWhenMadeAndAgainOnDemand)
     form.drawCabin();
     ASSERT_EQ(cabin.ops().size(), 2 * count);
     EXPECT_EQ(cabin.ops()[count].kind, DrawOp::Kind::Clear);
-}
-
-TEST(RegionalForm, OnlyTheBeechRefreshesTheMainWindowWhenItLosesTheFocus)
-{
-    RegionalRig rig;
-    rig.open(beechType()).Form_LostFocus();
-    EXPECT_EQ(rig.mainRefreshes, 1);
-    rig.open(dhc8Type()).Form_LostFocus();
-    EXPECT_EQ(rig.mainRefreshes, 1);
 }
 
 // Opening, closing and the main window's lines are the shell's tests (MainWindowTest, with the same

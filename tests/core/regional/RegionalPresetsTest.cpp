@@ -74,7 +74,6 @@ TEST(RegionalPresets, HeavyEmptiesReservedThenDrawnSeats)
         std::vector<int> emptySeats;
     };
     const Case cases[] = {
-        {beechType(), 0.0, 19, {}, {}},
         {beechType(), 0.2, 18, {}, {20}},
         // Seat 20 is already empty and seat 3 taken twice: both are drawn again.
         {beechType(),
@@ -83,10 +82,8 @@ TEST(RegionalPresets, HeavyEmptiesReservedThenDrawnSeats)
          {seatDraw(20, 18, 3), seatDraw(3, 18, 3), seatDraw(3, 18, 3), seatDraw(10, 18, 3),
           seatDraw(15, 18, 3), seatDraw(4, 18, 3)},
          {3, 4, 10, 15, 20}},
-        {emb120Type(), 0.0, 30, {}, {}},
         {emb120Type(), 0.15, 29, {seatDraw(20, 18, 3)}, {20}},
         {emb120Type(), 0.25, 28, {seatDraw(3, 18, 3)}, {3, 29}},
-        {dhc8Type(), 0.0, 50, {}, {}},
         {dhc8Type(), 0.1, 49, {0.999}, {51}},
         {dhc8Type(), 0.13, 48, {0.999}, {6, 50}},
         {dhc8Type(), 0.19, 47, {0.999}, {6, 7, 49}},
