@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <utility>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
@@ -18,11 +17,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     // One load state serves every input; what a file lists is all its text is made from.
     static quillet::LoadState state;
-    quillet::takeStationTable(std::move(read).value(), state);
+    read.value().restoreInto(state);
     const std::string written = quillet::stationFileText(state);
     auto again = quillet::readStationFile(written);
     QUILLET_FUZZ_CHECK(again);
-    quillet::takeStationTable(std::move(again).value(), state);
+    again.value().restoreInto(state);
     QUILLET_FUZZ_CHECK(quillet::stationFileText(state) == written);
     return 0;
 }

@@ -4,7 +4,6 @@
 #include "cfgfile/StationFile.h"
 #include "cfgfile/WeightBlock.h"
 #include "cfgfile/inputoutput.h"
-#include "freighter/DC10F.h"
 #include "freighter/FreighterForms.h"
 #include "jets/Boeing.h"
 #include "jets/JetForms.h"
@@ -14,6 +13,7 @@
 #include "regional/RegionalForm.h"
 #include "regional/RegionalForms.h"
 #include "shell/AircraftTypes.h"
+#include "shell/DeckForm.h"
 
 #include <algorithm>
 #include <cmath>
@@ -169,22 +169,15 @@ void FormDriver::click(LoadForm& form, bool move)
             regional->location_Click(m_choices.pick(static_cast<int>(regional->location.size())));
     } else if (auto* crj = dynamic_cast<CRJ200*>(&form)) {
         move ? crj->Picture2_MouseMove(0, 0, X, Y) : crj->Picture2_MouseDown(button, 0, X, Y);
-    } else if (auto* jet = dynamic_cast<Boeing*>(&form)) {
-        move ? jet->Picture1_MouseMove(0, 0, X, Y) : jet->Picture1_MouseDown(button, 0, X, Y);
-    } else if (auto* freighter = dynamic_cast<DC10F*>(&form)) {
-        move ? freighter->Picture1_MouseMove(0, 0, X, Y) : freighter->Picture1_MouseDown(button, 0, X, Y);
+    } else if (auto* deck = dynamic_cast<DeckForm*>(&form)) {
+        move ? deck->Picture1_MouseMove(0, 0, X, Y) : deck->Picture1_MouseDown(button, 0, X, Y);
     }
 }
 
 void FormDriver::save(LoadForm& form)
 {
     session.messages.take();
-    if (auto* regional = dynamic_cast<RegionalLoadForm*>(&form))
-        regional->mnusave_Click();
-    else if (auto* jet = dynamic_cast<Boeing*>(&form))
-        jet->mnusave_Click();
-    else if (auto* freighter = dynamic_cast<DC10F*>(&form))
-        freighter->mnusave_Click();
+    form.mnusave_Click();
     ++m_saves;
     if (!session.messages.pending().empty()) {
         ++m_refused;
@@ -197,8 +190,11 @@ void FormDriver::save(LoadForm& form)
     auto stations = session.files.read(session.programFolder / (type + ".cfg"), kMaxFileBytes);
     if (!stations || stations.value() != stationFileText(state))
         return fail("the station file of " + type + " does not hold the saved load");
-    auto again = withStationFile(stations.value(), LoadState{});
-    if (!again || stationFileText(again.value()) != stations.value())
+    auto again = readStationFile(stations.value());
+    static LoadState back;
+    if (again)
+        again.value().restoreInto(back);
+    if (!again || stationFileText(back) != stations.value())
         return fail("the station file of " + type + " does not read back to the same load");
     const auto cfgPath = state.cfgsource.file;
     auto cfg = session.files.read(cfgPath, kMaxFileBytes);
@@ -232,9 +228,7 @@ void FormDriver::step()
         session.messages.take();
         return checkLoad("Adjust");
     }
-    auto* regional = dynamic_cast<RegionalLoadForm*>(form);
     auto* jet = dynamic_cast<Boeing*>(form);
-    auto* freighter = dynamic_cast<DC10F*>(form);
     std::string name;
     switch (action) {
     case 1:
@@ -243,22 +237,9 @@ void FormDriver::step()
         break;
     case 2:
     case 3:
-        name = "a preset";
-        if (regional)
-            action == 2 ? regional->mnulight_Click() : regional->mnuheav_Click();
-        else if (jet)
-            action == 2 ? jet->mnulight_Click() : jet->mnuheav_Click();
-        else if (freighter)
-            action == 2 ? freighter->mnulight_Click() : freighter->mnuheav_Click();
-        break;
     case 4:
         name = "a preset";
-        if (regional)
-            regional->mnumed_Click();
-        else if (jet)
-            jet->mnumed_Click();
-        else if (freighter)
-            freighter->mnumed_Click();
+        action == 2 ? form->mnulight_Click() : action == 3 ? form->mnuheav_Click() : form->mnumed_Click();
         break;
     case 5:
         name = "\"Empty Aircraft\"";

@@ -164,7 +164,7 @@ constexpr std::size_t kFirstLineFields = 6;
 
 } // namespace
 
-Result<StationTable> readStationFile(std::string_view text)
+Result<LoadSnapshot> readStationFile(std::string_view text)
 {
     // Notepad puts a UTF-8 mark before a file it saves; it is not part of the first number.
     if (text.starts_with("\xEF\xBB\xBF"))
@@ -183,43 +183,23 @@ Result<StationTable> readStationFile(std::string_view text)
                        std::to_string(header.ncargo) + " cargo stations, more than the " +
                        std::to_string(kStationCapacity) + " this program can hold");
     }
-    StationTable table{header, {}};
+    LoadSnapshot table;
+    table.header = header;
     if (in.ok())
-        table.rows.reserve(static_cast<std::size_t>(stations));
+        table.stations.reserve(static_cast<std::size_t>(stations));
     for (int i = 0; i < stations && in.ok(); ++i) {
-        StationTable::Row& row = table.rows.emplace_back();
+        LoadSnapshot::Station& row = table.stations.emplace_back();
         row.name = in.label({"the label of", i});
         row.x = in.number({"the x position of", i});
         row.y = in.number({"the y position of", i});
         row.z = in.number({"the z position of", i});
         row.weight = in.weight({"the weight of", i}, header.maxtakeoff);
+        table.loadweight += row.weight;
     }
     in.expectEnd();
     if (!in.ok())
         return Error{in.error()};
     return table;
-}
-
-void takeStationTable(StationTable&& table, LoadState& state)
-{
-    static_cast<StationHeader&>(state) = table.header;
-    for (std::size_t i = 0; i < table.rows.size(); ++i) {
-        StationTable::Row& row = table.rows[i];
-        state.stationname[i] = std::move(row.name);
-        state.stationx[i] = row.x;
-        state.stationy[i] = row.y;
-        state.stationz[i] = row.z;
-        state.stationweight[i] = row.weight;
-    }
-}
-
-Result<LoadState> withStationFile(std::string_view text, LoadState state)
-{
-    auto table = readStationFile(text);
-    if (!table)
-        return table.error();
-    takeStationTable(std::move(table).value(), state);
-    return state;
 }
 
 std::string stationFileText(const LoadState& state)

@@ -73,7 +73,7 @@ Status readFiles(Session& session, const std::string& type)
         return Error{quoted(cfgPath) + " " + buffer.error().message + "." + notRead};
 
     const fs::path stationPath = stationFile(session, type);
-    std::optional<StationTable> stored;
+    std::optional<LoadSnapshot> stored;
     if (fileExists(type + ".cfg", session.programFolder, session.files.system())) {
         auto text = session.files.read(stationPath, kMaxFileBytes);
         if (!text)
@@ -102,7 +102,7 @@ Status readFiles(Session& session, const std::string& type)
 
     LoadState& state = session.state;
     if (stored) {
-        takeStationTable(std::move(*stored), state);
+        stored->restoreInto(state);
     } else if (auto created = session.files.replace(stationPath, stationFileText(state)); !created) {
         session.messages.report("The station file could not be created: " + created.error().message +
                                 " The built-in table of \"" + type +

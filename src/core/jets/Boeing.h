@@ -27,9 +27,9 @@ public:
     void mnuload_Click() override;
     void mnusave_Click() override;
     void mnuempty_Click();
-    void mnulight_Click();
-    void mnumed_Click();
-    void mnuheav_Click();
+    void mnulight_Click() override;
+    void mnumed_Click() override;
+    void mnuheav_Click() override;
     void Picture1_MouseDown(int Button, int Shift, double X, double Y) override;
     void Picture1_MouseMove(int Button, int Shift, double X, double Y) override;
     std::vector<FocusStation> focusStations() const override;

@@ -1,32 +1,13 @@
 #include "LoadHistory.h"
 
 #include <algorithm>
-#include <iterator>
-#include <tuple>
 
 namespace quillet {
-
-namespace {
-
-// The counts and limits in the order of the station file's first lines.
-constexpr int LoadState::*kCounts[] = {&LoadState::cfgstations, &LoadState::nstations, &LoadState::ncargo,
-                                       &LoadState::nlower,      &LoadState::ncrew,     &LoadState::seats1,
-                                       &LoadState::seats2,      &LoadState::seats3};
-constexpr float LoadState::*kLimits[] = {&LoadState::maxtakeoff, &LoadState::maxlanding,
-                                         &LoadState::emptyweight, &LoadState::maxzerofuel,
-                                         &LoadState::maxfuel};
-static_assert(std::size(kCounts) == std::tuple_size_v<decltype(LoadSnapshot::counts)>);
-static_assert(std::size(kLimits) == std::tuple_size_v<decltype(LoadSnapshot::limits)>);
-
-} // namespace
 
 LoadSnapshot LoadSnapshot::of(const LoadState& state)
 {
     LoadSnapshot load;
-    for (std::size_t i = 0; i < load.counts.size(); ++i)
-        load.counts[i] = state.*kCounts[i];
-    for (std::size_t i = 0; i < load.limits.size(); ++i)
-        load.limits[i] = state.*kLimits[i];
+    load.header = state;
     const int used = std::clamp(state.stationsInUse(), 0, kStationCapacity);
     load.stations.reserve(static_cast<std::size_t>(used));
     for (int i = 0; i < used; ++i) {
@@ -39,10 +20,7 @@ LoadSnapshot LoadSnapshot::of(const LoadState& state)
 
 void LoadSnapshot::restoreInto(LoadState& state) const
 {
-    for (std::size_t i = 0; i < counts.size(); ++i)
-        state.*kCounts[i] = counts[i];
-    for (std::size_t i = 0; i < limits.size(); ++i)
-        state.*kLimits[i] = limits[i];
+    static_cast<StationHeader&>(state) = header;
     for (std::size_t i = 0; i < stations.size(); ++i) {
         const Station& station = stations[i];
         state.stationname[i] = station.name;
@@ -59,8 +37,7 @@ void LoadHistory::record(std::string_view action, LoadSnapshot before, LoadSnaps
     if (before == after)
         return;
     std::string name(action);
-    if (before.counts == after.counts && before.limits == after.limits &&
-        before.stations.size() == after.stations.size()) {
+    if (before.header == after.header && before.stations.size() == after.stations.size()) {
         const auto differs = [&](std::size_t i) { return before.stations[i] != after.stations[i]; };
         std::size_t changed = 0;
         std::size_t which = 0;

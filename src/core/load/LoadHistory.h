@@ -22,8 +22,7 @@ struct LoadSnapshot {
         bool operator==(const Station&) const = default;
     };
 
-    std::array<int, 8> counts{};
-    std::array<float, 5> limits{};
+    StationHeader header;
     std::vector<Station> stations;
     // Kept so that putting a load back leaves the total it had; it follows from the weights, so two
     // loads that differ only here are the same load.
@@ -33,7 +32,7 @@ struct LoadSnapshot {
     void restoreInto(LoadState& state) const;
     bool operator==(const LoadSnapshot& other) const
     {
-        return counts == other.counts && limits == other.limits && stations == other.stations;
+        return header == other.header && stations == other.stations;
     }
 };
 

@@ -42,6 +42,8 @@ struct StationHeader {
     float maxlanding = 0;
     float maxzerofuel = 0;
     float maxfuel = 0;
+
+    friend bool operator==(const StationHeader&, const StationHeader&) = default;
 };
 
 // The one load state of the program: the station table and limits of the aircraft type that is set

@@ -1,30 +1,12 @@
 #pragma once
 
 #include "Canvas.h"
+#include "DrawOp.h"
 
 #include <string>
 #include <vector>
 
 namespace quillet {
-
-// One drawing operation as a recording canvas saw it, in twips, with the state it was drawn in.
-struct DrawOp {
-    enum class Kind { Clear, Line, Box, Circle, FloodFill, Text };
-
-    Kind kind = Kind::Clear;
-    double x1 = 0;
-    double y1 = 0;
-    double x2 = 0;
-    double y2 = 0;
-    double radius = 0;
-    Rgb colour;
-    FillStyle fillStyle = FillStyle::Transparent;
-    Rgb fillColor;
-    Rgb foreColor;
-    std::string text;
-    double fontSize = 0;
-    bool bold = false;
-};
 
 // A canvas that draws nothing and remembers every operation, for tests and for measuring drawings.
 // Text is measured with a fixed advance so that layouts are predictable.

@@ -38,9 +38,9 @@ public:
     void mnuload_Click() override;
     // The aircraft file writer. Nothing on the form changes.
     void mnusave_Click() override;
-    void mnulight_Click();
-    void mnumed_Click();
-    void mnuheav_Click();
+    void mnulight_Click() override;
+    void mnumed_Click() override;
+    void mnuheav_Click() override;
 
     // Brings the cabin in line with the station weights. It does not run the summary.
     virtual void redraw() = 0;

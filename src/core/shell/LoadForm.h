@@ -41,6 +41,10 @@ public:
     virtual void mnuload_Click() = 0;
     // Writes the aircraft's aircraft.cfg and the type's station file from the load state.
     virtual void mnusave_Click() = 0;
+    // The Light, Medium and Heavy presets of the form's menu; a form without them has nothing to do.
+    virtual void mnulight_Click() {}
+    virtual void mnumed_Click() {}
+    virtual void mnuheav_Click() {}
     // Closing: the summary on this form, the main window's refresh, and the main window again.
     virtual void Form_Unload();
     // Whether the form may close: with unsaved changes the user is asked whether to save them

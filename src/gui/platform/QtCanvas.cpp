@@ -109,7 +109,7 @@ void QtCanvas::doClear()
 {
     if (m_repeats) {
         m_deferring = true;
-        m_strokes.clear();
+        m_heldBack.clear();
         return;
     }
     erase();
@@ -120,7 +120,7 @@ void QtCanvas::doKeepAsBackground()
 {
     drawDeferred();
     m_backgroundImage = m_image;
-    m_keptStrokes.clear();
+    m_keptOps.clear();
     m_keptImage = QImage();
 }
 
@@ -132,24 +132,35 @@ void QtCanvas::doMarkRepeated()
         return;
     }
     m_deferring = false;
-    if (!m_keptImage.isNull() && m_strokes == m_keptStrokes) {
+    if (!m_keptImage.isNull() && m_heldBack == m_keptOps) {
         m_image = m_keptImage; // shared until the next drawing takes its rows
     } else {
         erase();
-        replay(m_strokes);
-        m_keptStrokes.swap(m_strokes);
+        replay(m_heldBack);
+        m_keptOps.swap(m_heldBack);
         m_keptImage = m_image;
     }
     changed();
 }
 
-bool QtCanvas::heldBack(Stroke::Kind kind, double a, double b, double c, double d, Rgb colour,
+bool QtCanvas::heldBack(DrawOp::Kind kind, double a, double b, double c, double d, Rgb colour,
                         std::string_view text)
 {
     if (!m_deferring)
         return false;
-    m_strokes.push_back({kind, a, b, c, d, colour, fillStyle(), fillColor(), foreColor(), fontSize(),
-                         fontBold(), std::string(text)});
+    DrawOp& op = m_heldBack.emplace_back();
+    op.kind = kind;
+    op.x1 = a;
+    op.y1 = b;
+    (kind == DrawOp::Kind::Circle ? op.radius : op.x2) = c;
+    op.y2 = d;
+    op.colour = colour;
+    op.fillStyle = fillStyle();
+    op.fillColor = fillColor();
+    op.foreColor = foreColor();
+    op.text = text;
+    op.fontSize = fontSize();
+    op.bold = fontBold();
     return true;
 }
 
@@ -159,38 +170,40 @@ void QtCanvas::drawDeferred()
         return;
     m_deferring = false;
     erase();
-    replay(m_strokes);
+    replay(m_heldBack);
     changed();
 }
 
-void QtCanvas::replay(const std::vector<Stroke>& strokes)
+void QtCanvas::replay(const std::vector<DrawOp>& ops)
 {
     const FillStyle style = fillStyle();
     const Rgb fill = fillColor();
     const Rgb fore = foreColor();
     const double size = fontSize();
     const bool bold = fontBold();
-    for (const Stroke& stroke : strokes) {
-        setFillStyle(stroke.fillStyle);
-        setFillColor(stroke.fillColour);
-        setForeColor(stroke.foreColour);
-        if (stroke.fontSize != fontSize() || stroke.bold != fontBold())
-            setFont(stroke.fontSize, stroke.bold);
-        switch (stroke.kind) {
-        case Stroke::Kind::Line:
-            drawLine(stroke.a, stroke.b, stroke.c, stroke.d, stroke.colour);
+    for (const DrawOp& op : ops) {
+        setFillStyle(op.fillStyle);
+        setFillColor(op.fillColor);
+        setForeColor(op.foreColor);
+        if (op.fontSize != fontSize() || op.bold != fontBold())
+            setFont(op.fontSize, op.bold);
+        switch (op.kind) {
+        case DrawOp::Kind::Clear:
             break;
-        case Stroke::Kind::Box:
-            drawBox(stroke.a, stroke.b, stroke.c, stroke.d, stroke.colour);
+        case DrawOp::Kind::Line:
+            drawLine(op.x1, op.y1, op.x2, op.y2, op.colour);
             break;
-        case Stroke::Kind::Circle:
-            drawCircle(stroke.a, stroke.b, stroke.c, stroke.colour);
+        case DrawOp::Kind::Box:
+            drawBox(op.x1, op.y1, op.x2, op.y2, op.colour);
             break;
-        case Stroke::Kind::FloodFill:
-            drawFloodFill(static_cast<int>(stroke.a), static_cast<int>(stroke.b));
+        case DrawOp::Kind::Circle:
+            drawCircle(op.x1, op.y1, op.radius, op.colour);
             break;
-        case Stroke::Kind::Text:
-            drawText(stroke.a, stroke.b, stroke.text);
+        case DrawOp::Kind::FloodFill:
+            drawFloodFill(static_cast<int>(op.x1), static_cast<int>(op.y1));
+            break;
+        case DrawOp::Kind::Text:
+            drawText(op.x1, op.y1, op.text);
             break;
         }
     }
@@ -203,7 +216,7 @@ void QtCanvas::replay(const std::vector<Stroke>& strokes)
 
 void QtCanvas::doLine(double x1, double y1, double x2, double y2, Rgb colour)
 {
-    if (heldBack(Stroke::Kind::Line, x1, y1, x2, y2, colour))
+    if (heldBack(DrawOp::Kind::Line, x1, y1, x2, y2, colour))
         return;
     drawLine(x1, y1, x2, y2, colour);
     changed();
@@ -211,7 +224,7 @@ void QtCanvas::doLine(double x1, double y1, double x2, double y2, Rgb colour)
 
 void QtCanvas::doBox(double x1, double y1, double x2, double y2, Rgb outline)
 {
-    if (heldBack(Stroke::Kind::Box, x1, y1, x2, y2, outline))
+    if (heldBack(DrawOp::Kind::Box, x1, y1, x2, y2, outline))
         return;
     drawBox(x1, y1, x2, y2, outline);
     changed();
@@ -219,7 +232,7 @@ void QtCanvas::doBox(double x1, double y1, double x2, double y2, Rgb outline)
 
 void QtCanvas::doCircle(double cx, double cy, double radius, Rgb outline)
 {
-    if (heldBack(Stroke::Kind::Circle, cx, cy, radius, 0, outline))
+    if (heldBack(DrawOp::Kind::Circle, cx, cy, radius, 0, outline))
         return;
     drawCircle(cx, cy, radius, outline);
     changed();
@@ -227,7 +240,7 @@ void QtCanvas::doCircle(double cx, double cy, double radius, Rgb outline)
 
 void QtCanvas::doFloodFill(int px, int py)
 {
-    if (heldBack(Stroke::Kind::FloodFill, px, py))
+    if (heldBack(DrawOp::Kind::FloodFill, px, py))
         return;
     drawFloodFill(px, py);
     changed();
@@ -235,7 +248,7 @@ void QtCanvas::doFloodFill(int px, int py)
 
 void QtCanvas::doText(double x, double y, std::string_view text)
 {
-    if (heldBack(Stroke::Kind::Text, x, y, 0, 0, {}, text))
+    if (heldBack(DrawOp::Kind::Text, x, y, 0, 0, {}, text))
         return;
     drawText(x, y, text);
     changed();

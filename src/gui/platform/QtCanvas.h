@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Canvas.h"
+#include "platform/DrawOp.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -52,36 +53,16 @@ protected:
     void fontChanged() override;
 
 private:
-    // One drawing operation with the state it is drawn in, held back from the image while a drawing
-    // that may repeat the kept one is compared with it.
-    struct Stroke {
-        enum class Kind { Line, Box, Circle, FloodFill, Text };
-        Kind kind = Kind::Line;
-        double a = 0;
-        double b = 0;
-        double c = 0;
-        double d = 0;
-        Rgb colour;
-        FillStyle fillStyle = FillStyle::Transparent;
-        Rgb fillColour;
-        Rgb foreColour;
-        double fontSize = 0;
-        bool bold = false;
-        std::string text;
-
-        bool operator==(const Stroke&) const = default;
-    };
-
     void changed();
     // The picture's background, before anything is drawn on it.
     void erase();
     // Holds the operation back when a repeated drawing is being compared; false when it is to be
     // drawn now.
-    bool heldBack(Stroke::Kind kind, double a, double b, double c = 0, double d = 0, Rgb colour = {},
+    bool heldBack(DrawOp::Kind kind, double a, double b, double c = 0, double d = 0, Rgb colour = {},
                   std::string_view text = {});
     // Draws what was held back since the last clear, on a fresh background.
     void drawDeferred();
-    void replay(const std::vector<Stroke>& strokes);
+    void replay(const std::vector<DrawOp>& ops);
     void drawLine(double x1, double y1, double x2, double y2, Rgb colour);
     void drawBox(double x1, double y1, double x2, double y2, Rgb outline);
     void drawCircle(double cx, double cy, double radius, Rgb outline);
@@ -128,9 +109,9 @@ private:
     // Once a drawing is marked as repeated, every clear holds the drawing back until the mark.
     bool m_repeats = false;
     bool m_deferring = false;
-    std::vector<Stroke> m_strokes; // held back since the last clear
-    std::vector<Stroke> m_keptStrokes;
-    QImage m_keptImage; // the picture m_keptStrokes drew
+    std::vector<DrawOp> m_heldBack; // since the last clear
+    std::vector<DrawOp> m_keptOps;
+    QImage m_keptImage; // the picture m_keptOps drew
 };
 
 } // namespace quillet
