@@ -4,15 +4,21 @@
 
 namespace quillet {
 
-// A small regional type as its set-up leaves it: two pilots, one passenger and one hold, all empty.
-inline void setUpSmallType(LoadState& s)
+// The Beech 1900D's limits, which the small type and other small test aircraft share.
+inline void setBeechLimits(StationHeader& s)
 {
-    s.cfgstations = 4;
     s.maxtakeoff = 16950;
     s.maxlanding = 16500;
     s.emptyweight = 10615;
     s.maxzerofuel = 15000;
     s.maxfuel = 3578;
+}
+
+// A small regional type as its set-up leaves it: two pilots, one passenger and one hold, all empty.
+inline void setUpSmallType(LoadState& s)
+{
+    s.cfgstations = 4;
+    setBeechLimits(s);
     s.nstations = 3;
     s.ncargo = 1;
     s.nlower = 1;

@@ -1,6 +1,7 @@
 #include "load/LoadSheet.h"
 
 #include "Golden.h"
+#include "core/cfgfile/SmallType.h"
 
 #include <gtest/gtest.h>
 #include <sstream>
@@ -12,11 +13,7 @@ namespace {
 LoadState beech(float crew, float pax, float hold, float fuelallowance)
 {
     LoadState state;
-    state.emptyweight = 10615;
-    state.maxtakeoff = 16950;
-    state.maxlanding = 16500;
-    state.maxzerofuel = 15000;
-    state.maxfuel = 3578;
+    setBeechLimits(state);
     state.nstations = 3;
     state.ncargo = 1;
     state.stationweight[0] = crew;

@@ -2,6 +2,7 @@
 
 #include "DrawOpText.h"
 #include "Golden.h"
+#include "core/cfgfile/SmallType.h"
 
 #include <gtest/gtest.h>
 
@@ -24,11 +25,7 @@ struct TestForm : SummaryForm {
 LoadState beechLike()
 {
     LoadState state;
-    state.emptyweight = 10615;
-    state.maxtakeoff = 16950;
-    state.maxlanding = 16500;
-    state.maxzerofuel = 15000;
-    state.maxfuel = 3578;
+    setBeechLimits(state);
     state.maxpax = 19;
     state.nstations = 21;
     state.ncargo = 2;
