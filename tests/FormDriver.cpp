@@ -202,8 +202,7 @@ void FormDriver::save(LoadForm& form)
     if (!buffer)
         return fail("the aircraft.cfg of " + type + " does not read back");
     const auto block = weightAndBalanceBlock(state, type, m_clock.today());
-    const auto& lines = buffer.value().lines;
-    if (rewriteAircraftFile(lines, buffer.value().sectionlines, block) != cfg.value())
+    if (rewriteAircraftFile(buffer.value().lines, buffer.value().sectionlines, block) != cfg.value())
         fail("the aircraft.cfg of " + type + " does not hold the saved load");
 }
 

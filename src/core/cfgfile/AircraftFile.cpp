@@ -20,32 +20,6 @@ bool blanksBefore(std::string_view line, std::size_t end, bool firstLine)
     return end >= start && line.substr(start, end - start).find_first_not_of(" \t") == std::string_view::npos;
 }
 
-// Calls onLine with each line of the bytes, without its line end. Line ends are looked for with
-// the library's search, not byte by byte, since files are read in full at every save.
-template <class OnLine>
-void forEachLine(std::string_view bytes, OnLine&& onLine)
-{
-    constexpr auto npos = std::string_view::npos;
-    std::size_t cr = bytes.find('\r');
-    std::size_t lf = bytes.find('\n');
-    std::size_t start = 0;
-    while (start < bytes.size()) {
-        if (cr != npos && cr < start)
-            cr = bytes.find('\r', start);
-        if (lf != npos && lf < start)
-            lf = bytes.find('\n', start);
-        const std::size_t end = std::min(cr, lf);
-        if (end == npos) {
-            onLine(bytes.substr(start));
-            return;
-        }
-        onLine(bytes.substr(start, end - start));
-        start = end + 1;
-        if (bytes[end] == '\r' && start < bytes.size() && bytes[start] == '\n')
-            ++start;
-    }
-}
-
 // Where the section header's name starts in the line, letter case aside, or npos.
 std::size_t findSectionHeader(std::string_view line)
 {
@@ -62,34 +36,21 @@ std::size_t findSectionHeader(std::string_view line)
 
 } // namespace
 
-std::vector<std::string> splitLines(std::string_view bytes)
-{
-    std::vector<std::string> lines;
-    forEachLine(bytes, [&](std::string_view line) { lines.emplace_back(line); });
-    return lines;
-}
-
-std::size_t countLines(std::string_view bytes)
-{
-    std::size_t count = 0;
-    forEachLine(bytes, [&](std::string_view) { ++count; });
-    return count;
-}
-
 bool isSectionHeader(std::string_view line)
 {
     return findSectionHeader(line) != std::string_view::npos;
 }
 
-int measureSection(std::span<const std::string> lines)
+int measureSection(const TextLines& lines)
 {
     int count = 0;
     bool inside = false;
-    for (const std::string& line : lines) {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const std::string_view line = lines[i];
         if (inside) {
             // Any bracket ends it, a second weight and balance header too: only the first section is
             // replaced, so only its lines may be dropped.
-            if (line.find('[') != std::string::npos)
+            if (line.find('[') != std::string_view::npos)
                 break;
             ++count;
         } else if (isSectionHeader(line)) {
@@ -105,7 +66,7 @@ Result<AircraftLines> bufferAircraftFile(std::string_view bytes, int capacity)
     if (const auto notText = whyNotText(bytes))
         return Error{*notText};
     AircraftLines out;
-    out.lines = splitLines(bytes);
+    out.lines = TextLines(bytes);
     out.sectionlines = measureSection(out.lines);
     const bool hasSection = out.sectionlines > 0;
     const int fileLines = static_cast<int>(out.lines.size());
@@ -125,13 +86,13 @@ Result<AircraftLines> bufferAircraftFile(std::string_view bytes, int capacity)
                      "aircraft.cfg.bak beside it holds the file as Quillet first found it)"};
     }
     if (!hasSection) {
-        out.lines.emplace_back();
-        out.lines.emplace_back("[WEIGHT_AND_BALANCE]");
+        out.lines.push_back("");
+        out.lines.push_back("[WEIGHT_AND_BALANCE]");
     }
     return out;
 }
 
-Status checkSection(std::span<const std::string> lines, int sectionlines, const std::string& fileName)
+Status checkSection(const TextLines& lines, int sectionlines, const std::string& fileName)
 {
     std::size_t header = 0;
     while (header < lines.size() && !isSectionHeader(lines[header]))
@@ -139,9 +100,9 @@ Status checkSection(std::span<const std::string> lines, int sectionlines, const 
     if (header == lines.size())
         return success();
     const auto lineOf = [&](std::size_t i) {
-        return "line " + std::to_string(i + 1) + " of " + fileName + ", \"" + lines[i] + "\",";
+        return "line " + std::to_string(i + 1) + " of " + fileName + ", \"" + std::string(lines[i]) + "\",";
     };
-    const std::string& line = lines[header];
+    const std::string_view line = lines[header];
     if (!blanksBefore(line, findSectionHeader(line), header == 0)) {
         return Error{
             lineOf(header) +
@@ -160,8 +121,7 @@ Status checkSection(std::span<const std::string> lines, int sectionlines, const 
     return success();
 }
 
-std::string rewriteAircraftFile(std::span<const std::string> lines, int sectionlines,
-                                std::span<const std::string> block)
+std::string rewriteAircraftFile(const TextLines& lines, int sectionlines, std::span<const std::string> block)
 {
     std::string out;
     bool blockWritten = false;

@@ -6,9 +6,7 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 
-#include <algorithm>
 #include <optional>
-#include <span>
 
 namespace fs = std::filesystem;
 
@@ -47,9 +45,8 @@ fs::path stationFile(const Session& session, const std::string& type)
 
 void fillBuffer(LoadState& state, AircraftLines&& buffer)
 {
-    state.cfglines.fill({});
-    std::move(buffer.lines.begin(), buffer.lines.end(), state.cfglines.begin());
     state.cfgcount = static_cast<int>(buffer.lines.size());
+    state.cfglines = std::move(buffer.lines);
     state.sectionlines = buffer.sectionlines;
 }
 
@@ -57,33 +54,35 @@ void fillBuffer(LoadState& state, AircraftLines&& buffer)
 // changes, and nothing is written, until every check has passed.
 Status readFiles(Session& session, const std::string& type)
 {
-    const std::string notRead =
-        " The load of \"" + type +
-        "\" was not read, and nothing will be saved for it until it is read successfully.";
+    // Made only for a message: a read that succeeds needs none of it.
+    const auto notRead = [&] {
+        return " The load of \"" + type +
+               "\" was not read, and nothing will be saved for it until it is read successfully.";
+    };
     auto found = aircraftFile(session, type);
     if (!found)
-        return Error{found.error().message + notRead};
+        return Error{found.error().message + notRead()};
     const fs::path cfgPath = found.value();
     auto read = session.files.read(cfgPath, kMaxFileBytes);
     if (!read)
-        return Error{read.error().message + notRead};
+        return Error{read.error().message + notRead()};
     std::string bytes = std::move(read).value();
     auto buffer = bufferAircraftFile(bytes, kCfgLineCapacity);
     if (!buffer)
-        return Error{quoted(cfgPath) + " " + buffer.error().message + "." + notRead};
+        return Error{quoted(cfgPath) + " " + buffer.error().message + "." + notRead()};
 
     const fs::path stationPath = stationFile(session, type);
     std::optional<LoadSnapshot> stored;
     if (fileExists(type + ".cfg", session.programFolder, session.files.system())) {
         auto text = session.files.read(stationPath, kMaxFileBytes);
         if (!text)
-            return Error{text.error().message + notRead};
+            return Error{text.error().message + notRead()};
         if (const auto notText = whyNotText(text.value()))
-            return Error{"The station file " + quoted(stationPath) + " " + *notText + "." + notRead};
+            return Error{"The station file " + quoted(stationPath) + " " + *notText + "." + notRead()};
         auto parsed = readStationFile(text.value());
         if (!parsed) {
             return Error{"The station file " + quoted(stationPath) +
-                         " cannot be used: " + parsed.error().message + "." + notRead +
+                         " cannot be used: " + parsed.error().message + "." + notRead() +
                          " Correct the file, or delete it to start again from the built-in table."};
         }
         stored = std::move(parsed).value();
@@ -97,7 +96,7 @@ Status readFiles(Session& session, const std::string& type)
                      " could not be made: " + copied.error().message +
                      " Quillet keeps the aircraft's original file there before it "
                      "changes anything." +
-                     notRead};
+                     notRead()};
     }
 
     LoadState& state = session.state;
@@ -116,7 +115,7 @@ Status readFiles(Session& session, const std::string& type)
 
 void clearBuffer(LoadState& state)
 {
-    state.cfglines.fill({});
+    state.cfglines.clear();
     state.cfgcount = 0;
     state.sectionlines = 0;
     state.cfgsource = CfgSource{};
@@ -155,24 +154,25 @@ Status writeFiles(Session& session)
                                 "weight and balance section are kept.");
     }
 
-    const auto lines = std::span(state.cfglines)
-                           .first(static_cast<std::size_t>(std::clamp(state.cfgcount, 0, kCfgLineCapacity)));
+    const TextLines& lines = state.cfglines;
     if (auto fits = checkSection(lines, state.sectionlines, quoted(cfgPath)); !fits)
         return Error{"Nothing was saved: " + fits.error().message};
     const auto block = weightAndBalanceBlock(state, type, session.clock.today());
     std::string text = rewriteAircraftFile(lines, state.sectionlines, block);
 
     // A file the reader would refuse locks the user out of the aircraft, so it is never written.
-    const std::string grown = "Nothing was saved: with the new weight and balance section " + quoted(cfgPath);
+    const auto grown = [&] {
+        return "Nothing was saved: with the new weight and balance section " + quoted(cfgPath);
+    };
     const auto savedLines = countLines(text);
     if (savedLines > static_cast<std::size_t>(kCfgLineCapacity)) {
-        return Error{grown + " would have " + std::to_string(savedLines) + " lines, more than the " +
+        return Error{grown() + " would have " + std::to_string(savedLines) + " lines, more than the " +
                      std::to_string(kCfgLineCapacity) +
                      " this program can read back. Remove some lines outside that section (comments, for "
                      "instance), then save again."};
     }
     if (text.size() > kMaxFileBytes) {
-        return Error{grown + " would be " + std::to_string(text.size()) + " bytes, more than the " +
+        return Error{grown() + " would be " + std::to_string(text.size()) + " bytes, more than the " +
                      std::to_string(kMaxFileBytes) + " this program can read back."};
     }
 

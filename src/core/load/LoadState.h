@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/TextLines.h"
+
 #include <array>
 #include <cstdint>
 #include <filesystem>
@@ -71,7 +73,7 @@ struct LoadState : StationHeader {
     std::int16_t ncontainers = 0;
 
     // The aircraft's aircraft.cfg as last read, and how many lines its weight section spans.
-    std::array<std::string, kCfgLineCapacity> cfglines{};
+    TextLines cfglines;
     int cfgcount = 0;
     int sectionlines = 0;
     CfgSource cfgsource;

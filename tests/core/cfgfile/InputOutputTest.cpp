@@ -442,7 +442,7 @@ TEST_F(CfgFileTest, ASaveThatWouldGrowTheFilePastWhatCanBeReadBackOrSpoilTheSect
         const auto filesBefore = allFiles();
         if (c.fits) {
             ASSERT_TRUE(writecfg(session));
-            EXPECT_EQ(splitLines(TempDir::readFile(cfg())).size(), 301u);
+            EXPECT_EQ(countLines(TempDir::readFile(cfg())), 301u);
         } else {
             EXPECT_FALSE(writecfg(session));
             EXPECT_EQ(hear(), 1u);
