@@ -24,15 +24,29 @@ bool needsNormalising(std::string_view text)
 }
 
 // Paths as plain strings: every file operation looks its path up, so the usual plain path is taken
-// as it is rather than normalised part by part.
+// as it is, without a copy where the system's paths are already strings with slashes, rather than
+// normalised part by part. `storage` holds the text when it has to be made.
+std::string_view key(const fs::path& path, std::string& storage)
+{
+#ifdef _WIN32
+    storage = path.generic_string();
+    std::string_view text = storage;
+#else
+    std::string_view text = path.native();
+#endif
+    if (needsNormalising(text)) {
+        storage = path.lexically_normal().generic_string();
+        text = storage;
+    }
+    while (text.size() > 1 && text.back() == '/')
+        text.remove_suffix(1);
+    return text;
+}
+
 std::string key(const fs::path& path)
 {
-    std::string text = path.generic_string();
-    if (needsNormalising(text))
-        text = path.lexically_normal().generic_string();
-    while (text.size() > 1 && text.back() == '/')
-        text.pop_back();
-    return text;
+    std::string storage;
+    return std::string(key(path, storage));
 }
 
 std::string_view parentKey(std::string_view name)
@@ -72,7 +86,8 @@ void MemoryFileSystem::put(const fs::path& path, std::string_view bytes)
 
 std::optional<std::string> MemoryFileSystem::get(const fs::path& path) const
 {
-    const auto found = m_files.find(key(path));
+    std::string storage;
+    const auto found = m_files.find(key(path, storage));
     if (found == m_files.end())
         return std::nullopt;
     return found->second;
@@ -82,7 +97,8 @@ FileStatus MemoryFileSystem::status(const fs::path& path, std::error_code& ec) c
 {
     ec.clear();
     FileStatus out;
-    const std::string name = key(path);
+    std::string storage;
+    const std::string_view name = key(path, storage);
     if (const auto file = m_files.find(name); file != m_files.end()) {
         out.type = fs::file_type::regular;
         out.size = file->second.size();
@@ -107,7 +123,8 @@ fs::path MemoryFileSystem::readLink(const fs::path&, std::error_code& ec) const
 
 std::vector<std::string> MemoryFileSystem::list(const fs::path& folder) const
 {
-    const std::string parent = key(folder);
+    std::string storage;
+    const std::string_view parent = key(folder, storage);
     std::vector<std::string> names;
     for (const auto& [name, bytes] : m_files) {
         if (parentKey(name) == parent)
@@ -123,9 +140,11 @@ std::vector<std::string> MemoryFileSystem::list(const fs::path& folder) const
 std::error_code MemoryFileSystem::read(const fs::path& path, std::uintmax_t maxBytes,
                                        std::string& bytes) const
 {
-    const auto file = m_files.find(key(path));
+    std::string storage;
+    const std::string_view name = key(path, storage);
+    const auto file = m_files.find(name);
     if (file == m_files.end())
-        return m_folders.contains(key(path)) ? std::make_error_code(std::errc::is_a_directory) : missing();
+        return m_folders.contains(name) ? std::make_error_code(std::errc::is_a_directory) : missing();
     if (file->second.size() > maxBytes) {
         bytes = file->second.substr(0, static_cast<std::size_t>(maxBytes) + 1);
         return std::make_error_code(std::errc::file_too_large);
@@ -139,7 +158,7 @@ std::error_code MemoryFileSystem::create(const fs::path& path, Handle& handle)
     const std::string name = key(path);
     if (m_files.contains(name) || m_folders.contains(name))
         return std::make_error_code(std::errc::file_exists);
-    if (!m_folders.contains(std::string(parentKey(name))))
+    if (!m_folders.contains(parentKey(name)))
         return missing();
     m_files[name];
     handle = m_nextHandle++;
@@ -169,29 +188,35 @@ std::error_code MemoryFileSystem::close(Handle handle)
 
 std::error_code MemoryFileSystem::rename(const fs::path& from, const fs::path& to)
 {
-    const auto source = m_files.find(key(from));
+    std::string storage;
+    const auto source = m_files.find(key(from, storage));
     if (source == m_files.end())
         return missing();
-    const std::string target = key(to);
+    const std::string_view target = key(to, storage);
     if (m_folders.contains(target))
         return std::make_error_code(std::errc::is_a_directory);
-    if (!m_folders.contains(std::string(parentKey(target))))
+    if (!m_folders.contains(parentKey(target)))
         return missing();
-    std::string bytes = std::move(source->second);
-    m_files.erase(source);
-    m_files[target] = std::move(bytes);
+    // The node moves under its new name, bytes and all; a file of that name is replaced.
+    auto node = m_files.extract(source);
+    node.key() = target;
+    if (auto placed = m_files.insert(std::move(node)); !placed.inserted)
+        placed.position->second = std::move(placed.node.mapped());
     return {};
 }
 
 std::error_code MemoryFileSystem::remove(const fs::path& path)
 {
-    m_files.erase(key(path));
+    std::string storage;
+    if (const auto file = m_files.find(key(path, storage)); file != m_files.end())
+        m_files.erase(file);
     return {};
 }
 
 std::error_code MemoryFileSystem::syncFolder(const fs::path& folder)
 {
-    return m_folders.contains(key(folder)) ? std::error_code() : missing();
+    std::string storage;
+    return m_folders.contains(key(folder, storage)) ? std::error_code() : missing();
 }
 
 } // namespace quillet

@@ -2,6 +2,7 @@
 
 #include "FileSystem.h"
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -18,8 +19,6 @@ public:
     void put(const std::filesystem::path& path, std::string_view bytes);
     // The bytes of a file, or nothing.
     std::optional<std::string> get(const std::filesystem::path& path) const;
-    // Every file, by its path.
-    const std::map<std::string, std::string>& files() const { return m_files; }
 
     FileStatus status(const std::filesystem::path& path, std::error_code& ec) const override;
     FileStatus linkStatus(const std::filesystem::path& path, std::error_code& ec) const override;
@@ -37,8 +36,9 @@ public:
     std::error_code syncFolder(const std::filesystem::path& folder) override;
 
 private:
-    std::map<std::string, std::string> m_files;
-    std::set<std::string> m_folders;
+    // By the path's text, looked up without a copy of it.
+    std::map<std::string, std::string, std::less<>> m_files;
+    std::set<std::string, std::less<>> m_folders;
     std::map<Handle, std::string> m_open; // handle, path
     Handle m_nextHandle = 1;
 };

@@ -59,6 +59,16 @@ fs::path startOf(const SplitPath& split, const fs::path& base)
     return base.empty() ? fs::path(".") : base;
 }
 
+// The path with every part as written. Letter case is usually right, so one look at this path mostly
+// spares looking at each part.
+fs::path asWritten(const SplitPath& split, const fs::path& base)
+{
+    fs::path path = startOf(split, base);
+    for (const std::string& part : split.parts)
+        path /= pathFromUtf8(part);
+    return path;
+}
+
 // The entry of `dir` named `name`, exact match first, then without regard to letter case.
 std::optional<fs::path> findEntry(const FileSystem& system, const fs::path& dir, const std::string& name)
 {
@@ -81,6 +91,9 @@ std::optional<fs::path> findPath(std::string_view path, const fs::path& base, co
     const SplitPath parts = split(path);
     if (parts.parts.empty() && parts.root.empty())
         return std::nullopt;
+    std::error_code ec;
+    if (fs::path exact = asWritten(parts, base); system.status(exact, ec).exists())
+        return exact;
     fs::path current = startOf(parts, base);
     for (const std::string& part : parts.parts) {
         auto next = findEntry(system, current, part);
@@ -88,7 +101,6 @@ std::optional<fs::path> findPath(std::string_view path, const fs::path& base, co
             return std::nullopt;
         current = *next;
     }
-    std::error_code ec;
     if (!system.status(current, ec).exists())
         return std::nullopt;
     return current;
@@ -97,6 +109,9 @@ std::optional<fs::path> findPath(std::string_view path, const fs::path& base, co
 fs::path resolvePath(std::string_view path, const fs::path& base, const FileSystem& system)
 {
     const SplitPath parts = split(path);
+    std::error_code ec;
+    if (fs::path exact = asWritten(parts, base); system.status(exact, ec).exists())
+        return exact;
     fs::path current = startOf(parts, base);
     bool found = true;
     for (const std::string& part : parts.parts) {
