@@ -115,11 +115,17 @@ void FormDriver::startUp()
     checkLoad("start-up");
 }
 
-void FormDriver::restart()
+void FormDriver::stop()
 {
     m_form1.reset();
     m_forms.reset();
     session.state = m_startState;
+    session.messages.take();
+}
+
+void FormDriver::restart()
+{
+    stop();
     m_broken.clear();
     m_peak = 1;
     m_saves = 0;

@@ -79,6 +79,9 @@ public:
     // Back to just after start-up, every form closed, for a run of its own; the files are the
     // caller's to put back.
     void restart();
+    // The program closed: every form gone and the state as before start-up, so that nothing of a run
+    // stays allocated.
+    void stop();
 
     // The first broken promise, or empty.
     const std::string& broken() const { return m_broken; }
