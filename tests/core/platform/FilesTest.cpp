@@ -163,7 +163,8 @@ TEST(Files, ASaveRemovesOnlyTheTemporariesItsFileLeftBehind)
     const auto outside = dir.write("outside/keep.txt", "not ours");
     const std::set<std::string> foreign{
         ".aircraft.cfg.bak.0123456789abcdef.quillet-new", ".aircraft.cfg.0123.quillet-new",
-        "aircraft.cfg.0123456789abcdef.quillet-new", ".aircraft.cfg.0123456789ABCDEF.quillet-new"};
+        "aircraft.cfg.0123456789abcdef.quillet-new", ".aircraft.cfg.0123456789ABCDEF.quillet-new",
+        ".aircraft.cfg.0123456789abcdeg.quillet-new"};
     for (const std::string& name : foreign)
         dir.write(name, "x");
     dir.write(".aircraft.cfg.00000000deadbeef.quillet-new", "left by a killed save");

@@ -4,6 +4,7 @@
 #include "platform/Random.h"
 
 #include <clocale>
+#include <cmath>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <locale>
@@ -92,6 +93,7 @@ TEST(NumberFormats, HalvesToEvenAndShortestPlainDecimal)
     EXPECT_EQ(roundHalfEven(2.5), 2);
     EXPECT_EQ(roundHalfEven(3.5), 4);
     EXPECT_EQ(roundHalfEven(-2.5), -2);
+    EXPECT_FALSE(std::signbit(roundHalfEven(-0.4))) << "a negative zero would be shown as -0";
     EXPECT_EQ(roundHalfEven(0.0625, 3), 0.062);
     EXPECT_EQ(roundHalfEven(182.6f, 1), 182.6);
 
@@ -108,9 +110,9 @@ TEST(NumberFormats, HalvesToEvenAndShortestPlainDecimal)
 TEST(LeadingNumber, ReadsTheLongestLeadingNumber)
 {
     const std::pair<const char*, double> cases[] = {
-        {"85 kg", 85},      {"abc", 0},   {"", 0},       {"-80", -80},  {"182.6", 182.6},
-        {" 1 7 0 lb", 170}, {".5", 0.5},  {"-.5", -0.5}, {"1e3", 1000}, {"2e", 2},
-        {"+12", 12},        {"12,5", 12}, {"-", 0},      {".", 0},      {"1e999", 0}};
+        {"85 kg", 85}, {"abc", 0},    {"", 0},       {"-80", -80},   {"182.6", 182.6}, {" 1 7 0 lb", 170},
+        {".5", 0.5},   {"-.5", -0.5}, {"1e3", 1000}, {"2e", 2},      {"+12", 12},      {"12,5", 12},
+        {"-", 0},      {".", 0},      {"1e999", 0},  {"1e 3", 1000}, {"1e -3", 0.001}, {"1e1 2", 1e12}};
     for (const auto& [text, value] : cases)
         EXPECT_DOUBLE_EQ(val(text), value) << text;
 }
