@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <tuple>
 
@@ -162,14 +163,18 @@ TEST_F(DC10FForm, ALoadedContainerShowsItsWeightBesideItWhileThePointerRestsOnIt
     const DrawOp box = rig.picture().ops(DrawOp::Kind::Box).back();
     EXPECT_DOUBLE_EQ((box.y1 + box.y2) / 2, 468);
 
-    // Near the right edge the box opens to the left of the point.
+    // A label that would end at the right edge, 9435 twips, or past it opens to the left of the point;
+    // one that ends a twip short opens to the right.
     state.stationweight[kContainer12] = 9000;
-    moveTo(8225, 676);
-    const DrawOp right = rig.picture().ops(DrawOp::Kind::Text).back();
-    EXPECT_EQ(right.text, " Container 12 9000 lb.");
-    const double width = rig.picture().textWidth(right.text);
-    ASSERT_GE(width, 1110);
-    EXPECT_DOUBLE_EQ(right.x1, 8225 - 100 - width);
+    const double width = rig.picture().textWidth(" Container 12 9000 lb.");
+    for (const double end : {9435.0, 9434.0}) {
+        const auto x = static_cast<std::int16_t>(end - 100 - width);
+        state.stationpx[kContainer12] = x;
+        moveTo(x, 676);
+        const DrawOp right = rig.picture().ops(DrawOp::Kind::Text).back();
+        EXPECT_EQ(right.text, " Container 12 9000 lb.");
+        EXPECT_DOUBLE_EQ(right.x1, end == 9435 ? x - 100 - width : x + 100) << end;
+    }
 
     moveTo(100, 100); // the next movement elsewhere wipes it
     EXPECT_EQ(rig.picture().ops(DrawOp::Kind::Box).size(), emptyBoxes);
