@@ -90,7 +90,7 @@ void check(Rig& rig, std::string_view bytes)
     // for the reader.
     const quillet::TextLines& lines = session.state.cfglines;
     const int sectionlines = session.state.sectionlines;
-    const auto fits = quillet::checkSection(lines, sectionlines, "\"" + kCfg.string() + "\"");
+    const auto fits = quillet::checkSection(lines, sectionlines, kCfg);
     const auto block = quillet::weightAndBalanceBlock(session.state, kType, rig.clock.today());
     const std::string expected = fits ? quillet::rewriteAircraftFile(lines, sectionlines, block) : "";
     const bool tooManyLines = quillet::countLines(expected) > quillet::kCfgLineCapacity;

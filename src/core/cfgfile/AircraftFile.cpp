@@ -92,7 +92,7 @@ Result<AircraftLines> bufferAircraftFile(std::string_view bytes, int capacity)
     return out;
 }
 
-Status checkSection(const TextLines& lines, int sectionlines, const std::string& fileName)
+Status checkSection(const TextLines& lines, int sectionlines, const std::filesystem::path& file)
 {
     std::size_t header = 0;
     while (header < lines.size() && !isSectionHeader(lines[header]))
@@ -100,7 +100,8 @@ Status checkSection(const TextLines& lines, int sectionlines, const std::string&
     if (header == lines.size())
         return success();
     const auto lineOf = [&](std::size_t i) {
-        return "line " + std::to_string(i + 1) + " of " + fileName + ", \"" + std::string(lines[i]) + "\",";
+        return "line " + std::to_string(i + 1) + " of " + quotedPath(file) + ", \"" + std::string(lines[i]) +
+               "\",";
     };
     const std::string_view line = lines[header];
     if (!blanksBefore(line, findSectionHeader(line), header == 0)) {
@@ -124,6 +125,10 @@ Status checkSection(const TextLines& lines, int sectionlines, const std::string&
 std::string rewriteAircraftFile(const TextLines& lines, int sectionlines, std::span<const std::string> block)
 {
     std::string out;
+    std::size_t size = lines.bytes() + 2 * lines.size();
+    for (const std::string& line : block)
+        size += line.size() + 2;
+    out.reserve(size);
     bool blockWritten = false;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         out += lines[i];

@@ -3,6 +3,7 @@
 #include "platform/Result.h"
 #include "platform/TextLines.h"
 
+#include <filesystem>
 #include <span>
 #include <string>
 #include <string_view>
@@ -31,8 +32,8 @@ Result<AircraftLines> bufferAircraftFile(std::string_view bytes, int capacity);
 
 // Whether the block can replace the section without spoiling the file: the first line holding
 // "[WEIGHT_AND_BALANCE]" must be a header line (nothing but blanks before it), and so must the line
-// that ends the section (a "[" after blanks). The error names the line of `fileName` and says why.
-Status checkSection(const TextLines& lines, int sectionlines, const std::string& fileName);
+// that ends the section (a "[" after blanks). The error names the line of `file` and says why.
+Status checkSection(const TextLines& lines, int sectionlines, const std::filesystem::path& file);
 
 // The new aircraft.cfg: every buffered line ended by CR LF, with `block` after the first section
 // header in place of the old section's body.

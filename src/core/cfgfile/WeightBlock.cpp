@@ -3,6 +3,8 @@
 #include "platform/Format.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 
 namespace quillet {
 
@@ -74,7 +76,8 @@ std::vector<std::string> weightAndBalanceBlock(const LoadState& state, const std
                                                const Date& today)
 {
     const double total = static_cast<double>(state.emptyweight) + state.loadweight + state.fuelallowance;
-    std::vector<std::string> block = {
+    // Moved rather than copied out of a list: a save makes this block every time.
+    std::array<std::string, 16> head = {
         "// Weight and Balance edited by Quillet 2.0 on " + formatDate(today),
         "// " + type + " configuration" + classText(state.seats1, state.seats2, state.seats3),
         "// MaxTakeoff Weight = " + format0(state.maxtakeoff) + "lb",
@@ -92,6 +95,8 @@ std::vector<std::string> weightAndBalanceBlock(const LoadState& state, const std
         "empty_weight_cg_position=0.0, 0, 0",
         " ",
     };
+    std::vector<std::string> block(std::make_move_iterator(head.begin()),
+                                   std::make_move_iterator(head.end()));
     appendStations(state, block);
     block.push_back(" ");
     return block;

@@ -14,14 +14,6 @@ namespace quillet {
 
 namespace {
 
-std::string quoted(const fs::path& path)
-{
-    std::string text = displayPath(path);
-    text.insert(text.begin(), '"');
-    text += '"';
-    return text;
-}
-
 Result<fs::path> aircraftFile(const Session& session, const std::string& type)
 {
     if (type.empty())
@@ -69,7 +61,7 @@ Status readFiles(Session& session, const std::string& type)
     std::string bytes = std::move(read).value();
     auto buffer = bufferAircraftFile(bytes, kCfgLineCapacity);
     if (!buffer)
-        return Error{quoted(cfgPath) + " " + buffer.error().message + "." + notRead()};
+        return Error{quotedPath(cfgPath) + " " + buffer.error().message + "." + notRead()};
 
     const fs::path stationPath = stationFile(session, type);
     std::optional<LoadSnapshot> stored;
@@ -78,10 +70,10 @@ Status readFiles(Session& session, const std::string& type)
         if (!text)
             return Error{text.error().message + notRead()};
         if (const auto notText = whyNotText(text.value()))
-            return Error{"The station file " + quoted(stationPath) + " " + *notText + "." + notRead()};
+            return Error{"The station file " + quotedPath(stationPath) + " " + *notText + "." + notRead()};
         auto parsed = readStationFile(text.value());
         if (!parsed) {
-            return Error{"The station file " + quoted(stationPath) +
+            return Error{"The station file " + quotedPath(stationPath) +
                          " cannot be used: " + parsed.error().message + "." + notRead() +
                          " Correct the file, or delete it to start again from the built-in table."};
         }
@@ -92,7 +84,7 @@ Status readFiles(Session& session, const std::string& type)
     // made stops every later save.
     const fs::path backup = cfgPath.parent_path() / "aircraft.cfg.bak";
     if (auto copied = session.files.createIfAbsent(backup, bytes); !copied) {
-        return Error{"The one-time backup of " + quoted(cfgPath) +
+        return Error{"The one-time backup of " + quotedPath(cfgPath) +
                      " could not be made: " + copied.error().message +
                      " Quillet keeps the aircraft's original file there before it "
                      "changes anything." +
@@ -132,7 +124,7 @@ Status writeFiles(Session& session)
     const fs::path cfgPath = found.value();
     CfgSource& source = state.cfgsource;
     if (!source.valid || source.type != type || source.file != cfgPath) {
-        return Error{"Nothing was saved: " + quoted(cfgPath) + " has not been read successfully for \"" +
+        return Error{"Nothing was saved: " + quotedPath(cfgPath) + " has not been read successfully for \"" +
                      type + "\". Re-load the configuration, then save again."};
     }
 
@@ -144,25 +136,25 @@ Status writeFiles(Session& session)
     if (onDisk.value() != source.bytes) {
         auto buffer = bufferAircraftFile(onDisk.value(), kCfgLineCapacity);
         if (!buffer) {
-            return Error{"Nothing was saved: " + quoted(cfgPath) +
+            return Error{"Nothing was saved: " + quotedPath(cfgPath) +
                          " was changed by another program and now " + buffer.error().message + "."};
         }
         fillBuffer(state, std::move(buffer).value());
         source.bytes = std::move(onDisk).value();
-        session.messages.report(quoted(cfgPath) +
+        session.messages.report(quotedPath(cfgPath) +
                                 " was changed by another program since it was read; its changes outside the "
                                 "weight and balance section are kept.");
     }
 
     const TextLines& lines = state.cfglines;
-    if (auto fits = checkSection(lines, state.sectionlines, quoted(cfgPath)); !fits)
+    if (auto fits = checkSection(lines, state.sectionlines, cfgPath); !fits)
         return Error{"Nothing was saved: " + fits.error().message};
     const auto block = weightAndBalanceBlock(state, type, session.clock.today());
     std::string text = rewriteAircraftFile(lines, state.sectionlines, block);
 
     // A file the reader would refuse locks the user out of the aircraft, so it is never written.
     const auto grown = [&] {
-        return "Nothing was saved: with the new weight and balance section " + quoted(cfgPath);
+        return "Nothing was saved: with the new weight and balance section " + quotedPath(cfgPath);
     };
     const auto savedLines = countLines(text);
     if (savedLines > static_cast<std::size_t>(kCfgLineCapacity)) {
@@ -180,7 +172,7 @@ Status writeFiles(Session& session)
     // weight): it would lock the user out of the type's load the same way.
     const std::string stations = stationFileText(state);
     if (auto back = readStationFile(stations); !back) {
-        return Error{"Nothing was saved: the station file " + quoted(stationFile(session, type)) +
+        return Error{"Nothing was saved: the station file " + quotedPath(stationFile(session, type)) +
                      " would not read back: " + back.error().message +
                      ". Change that station's load, then save again."};
     }
@@ -200,7 +192,7 @@ Status writeFiles(Session& session)
     const Status stationsRenamed = session.files.rename(newStations.value());
     session.files.finish({&newCfg.value(), &newStations.value()});
     if (!stationsRenamed) {
-        return Error{quoted(cfgPath) +
+        return Error{quotedPath(cfgPath) +
                      " was saved: the simulator now flies the new load. But the station file "
                      "was not: " +
                      stationsRenamed.error().message + " The load Quillet keeps for \"" + type +

@@ -17,19 +17,15 @@ namespace {
 constexpr std::string_view kTemporaryEnd = ".quillet-new";
 constexpr std::size_t kTemporaryDigits = 16;
 
-std::string quoted(const fs::path& path)
-{
-    return "\"" + displayPath(path) + "\"";
-}
-
 Error failure(const fs::path& path, const std::string& what)
 {
-    return Error{quoted(path) + " " + what + "."};
+    return Error{quotedPath(path) + " " + what + "."};
 }
 
 fs::path folderOf(const fs::path& path)
 {
-    return path.parent_path().empty() ? fs::path(".") : path.parent_path();
+    fs::path folder = path.parent_path();
+    return folder.empty() ? fs::path(".") : folder;
 }
 
 // The file a save of `path` replaces: the path itself, or the file its links lead to. Replacing the
@@ -49,7 +45,7 @@ Result<fs::path> fileBehind(const FileSystem& system, const fs::path& path)
             return failure(path, "is a link that could not be read: " + ec.message());
         current = target.is_absolute() ? target : folderOf(current) / target;
         if (!system.status(current, ec).exists() && !ec)
-            return failure(path, "is a link to " + quoted(target) + ", which does not exist");
+            return failure(path, "is a link to " + quotedPath(target) + ", which does not exist");
     }
     return failure(path, "is a link that leads round in a circle");
 }
@@ -79,8 +75,12 @@ fs::path temporaryFor(const fs::path& path)
     static std::mt19937_64 generator{std::random_device{}()};
     char suffix[kTemporaryDigits + 1];
     std::snprintf(suffix, sizeof suffix, "%016llx", static_cast<unsigned long long>(generator()));
-    return folderOf(path) /
-           pathFromUtf8("." + utf8Of(path.filename()) + "." + suffix + std::string(kTemporaryEnd));
+    std::string name = ".";
+    name += utf8Of(path.filename());
+    name += '.';
+    name += suffix;
+    name += kTemporaryEnd;
+    return folderOf(path) / pathFromUtf8(name);
 }
 
 bool isTemporaryOf(std::string_view entry, std::string_view name)
@@ -183,7 +183,7 @@ Result<PendingFile> Files::prepare(const fs::path& path, std::string_view bytes)
         return failure(path, "is read-only, so it was not changed");
     const fs::path folder = folderOf(target);
     if (!m_system->status(folder, ec).isFolder())
-        return failure(path, "cannot be written: its folder " + quoted(folder) + " does not exist");
+        return failure(path, "cannot be written: its folder " + quotedPath(folder) + " does not exist");
 
     PendingFile pending;
     pending.m_system = m_system;
@@ -273,8 +273,8 @@ Status Files::createIfAbsent(const fs::path& path, std::string_view bytes) const
         if (target.isFolder())
             return failure(path, "is a folder, not a file");
         if (entry.isLink() && !target.exists())
-            return failure(path,
-                           "is a link to " + quoted(m_system->readLink(path, ec)) + ", which does not exist");
+            return failure(path, "is a link to " + quotedPath(m_system->readLink(path, ec)) +
+                                     ", which does not exist");
         return failure(path, "is not a plain file");
     }
     return replace(path, bytes);

@@ -71,17 +71,28 @@ std::error_code missing()
 
 void MemoryFileSystem::addFolder(const fs::path& folder)
 {
-    for (fs::path part = folder.lexically_normal(); !part.empty(); part = part.parent_path()) {
-        m_folders.insert(key(part));
-        if (part == part.parent_path())
-            break;
+    std::string storage;
+    addFolders(key(folder, storage));
+}
+
+void MemoryFileSystem::addFolders(std::string_view name)
+{
+    for (; !name.empty() && !m_folders.contains(name); name = parentKey(name)) {
+        m_folders.emplace(name);
+        if (parentKey(name) == name)
+            break; // the root
     }
 }
 
 void MemoryFileSystem::put(const fs::path& path, std::string_view bytes)
 {
-    addFolder(path.parent_path());
-    m_files[key(path)] = std::string(bytes);
+    std::string storage;
+    const std::string_view name = key(path, storage);
+    addFolders(parentKey(name));
+    if (const auto file = m_files.find(name); file != m_files.end())
+        file->second = bytes;
+    else
+        m_files.emplace(name, bytes);
 }
 
 std::optional<std::string> MemoryFileSystem::get(const fs::path& path) const

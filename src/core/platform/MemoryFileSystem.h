@@ -36,6 +36,9 @@ public:
     std::error_code syncFolder(const std::filesystem::path& folder) override;
 
 private:
+    // The folder of that key and the folders above it.
+    void addFolders(std::string_view name);
+
     // By the path's text, looked up without a copy of it.
     std::map<std::string, std::string, std::less<>> m_files;
     std::set<std::string, std::less<>> m_folders;

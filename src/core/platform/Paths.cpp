@@ -60,13 +60,16 @@ fs::path startOf(const SplitPath& split, const fs::path& base)
 }
 
 // The path with every part as written. Letter case is usually right, so one look at this path mostly
-// spares looking at each part.
+// spares looking at each part. The parts are joined first, as each join of a path makes it anew.
 fs::path asWritten(const SplitPath& split, const fs::path& base)
 {
-    fs::path path = startOf(split, base);
-    for (const std::string& part : split.parts)
-        path /= pathFromUtf8(part);
-    return path;
+    std::string parts;
+    for (const std::string& part : split.parts) {
+        if (!parts.empty())
+            parts += static_cast<char>(fs::path::preferred_separator);
+        parts += part;
+    }
+    return parts.empty() ? startOf(split, base) : startOf(split, base) / pathFromUtf8(parts);
 }
 
 // The entry of `dir` named `name`, exact match first, then without regard to letter case.
@@ -138,6 +141,11 @@ bool isSingleName(std::string_view name)
 std::string displayPath(const fs::path& path)
 {
     return utf8Of(path.lexically_normal());
+}
+
+std::string quotedPath(const fs::path& path)
+{
+    return '"' + displayPath(path) + '"';
 }
 
 fs::path pathFromUtf8(std::string_view text)

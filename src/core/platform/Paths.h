@@ -33,6 +33,8 @@ bool isSingleName(std::string_view name);
 
 // The text of a path for a message: the way the user wrote it.
 std::string displayPath(const std::filesystem::path& path);
+// The same between double quotes, as messages name files.
+std::string quotedPath(const std::filesystem::path& path);
 
 // Text inside the program is UTF-8 wherever it came from; a path holds what the system's calls take,
 // wide characters on Windows, where a plain string would be read in the local code page instead and a

@@ -20,6 +20,8 @@ public:
 
     std::size_t size() const { return m_lines.size(); }
     bool empty() const { return m_lines.empty(); }
+    // The bytes of every line together, line ends left out.
+    std::size_t bytes() const { return m_text.size(); }
     std::string_view operator[](std::size_t i) const
     {
         return std::string_view(m_text).substr(m_lines[i].first, m_lines[i].second);

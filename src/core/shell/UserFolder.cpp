@@ -16,11 +16,6 @@ namespace {
 // Far larger than any aircraft picture.
 constexpr std::uintmax_t kPictureMaxBytes = 16 * 1024 * 1024;
 
-std::string quoted(const fs::path& path)
-{
-    return "\"" + displayPath(path) + "\"";
-}
-
 } // namespace
 
 std::string starterSettings()
@@ -36,7 +31,7 @@ Status prepareUserFolder(const fs::path& folder, const fs::path& installedPictur
     std::error_code ec;
     fs::create_directories(folder, ec);
     if (!fs::is_directory(folder, ec))
-        return Error{"Quillet's folder " + quoted(folder) + " could not be made" +
+        return Error{"Quillet's folder " + quotedPath(folder) + " could not be made" +
                      (ec ? ": " + ec.message() : "") + "."};
 
     // Settings first: without them the program cannot be configured at all.
@@ -47,8 +42,8 @@ Status prepareUserFolder(const fs::path& folder, const fs::path& installedPictur
 
     fs::directory_iterator entry(installedPictures, ec);
     if (ec)
-        return Error{"The aircraft pictures could not be copied from " + quoted(installedPictures) + ": " +
-                     ec.message() + "."};
+        return Error{"The aircraft pictures could not be copied from " + quotedPath(installedPictures) +
+                     ": " + ec.message() + "."};
     // Copied whole through a temporary file, so that an interrupted first start leaves no half picture.
     for (; entry != fs::directory_iterator(); entry.increment(ec)) {
         const fs::path& picture = entry->path();
@@ -63,8 +58,8 @@ Status prepareUserFolder(const fs::path& folder, const fs::path& installedPictur
             return copied;
     }
     if (ec)
-        return Error{"The aircraft pictures could not be copied from " + quoted(installedPictures) + ": " +
-                     ec.message() + "."};
+        return Error{"The aircraft pictures could not be copied from " + quotedPath(installedPictures) +
+                     ": " + ec.message() + "."};
     return success();
 }
 
