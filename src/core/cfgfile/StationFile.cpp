@@ -57,7 +57,7 @@ public:
 
     int count(What what)
     {
-        const std::string expected = "a whole number from 0 to " + std::to_string(kStationCapacity);
+        static const std::string expected = "a whole number from 0 to " + std::to_string(kStationCapacity);
         const auto value = numeric(what, expected);
         if (value && (*value < 0 || *value > kStationCapacity || *value != std::floor(*value)))
             fail(m_last.line, what.text() + " should be " + expected + " but is \"" + m_last.text + "\"");
@@ -66,7 +66,7 @@ public:
 
     std::string label(What what)
     {
-        const auto field = take(what);
+        const auto* field = take(what);
         if (!field)
             return {};
         // A label becomes the end of a line of aircraft.cfg, where a "[" would end the weight and
@@ -101,29 +101,32 @@ public:
     const std::string& error() const { return m_error; }
 
 private:
-    std::optional<DelimitedReader::Field> take(What what)
+    // The next field, kept as the last one read; nothing once a problem is met.
+    const DelimitedReader::Field* take(What what)
     {
         if (!ok())
-            return std::nullopt;
+            return nullptr;
         auto field = m_reader.next();
         if (!field) {
             fail(m_last.line, "the file ends before " + what.text());
-            return std::nullopt;
+            return nullptr;
         }
-        m_last = *field;
-        return field;
+        m_last = std::move(*field);
+        return &m_last;
     }
 
-    std::optional<double> numeric(What what, const std::string& expected)
+    std::optional<double> numeric(What what, std::string_view expected)
     {
-        const auto field = take(what);
+        const auto* field = take(what);
         if (!field)
             return std::nullopt;
         double value = 0;
         if (field->quoted)
-            fail(field->line, what.text() + " should be " + expected + ", not a text in double quotes");
+            fail(field->line,
+                 what.text() + " should be " + std::string(expected) + ", not a text in double quotes");
         else if (!parseNumber(field->text, value))
-            fail(field->line, what.text() + " should be " + expected + " but is \"" + field->text + "\"");
+            fail(field->line,
+                 what.text() + " should be " + std::string(expected) + " but is \"" + field->text + "\"");
         else
             return value;
         return std::nullopt;

@@ -1,5 +1,7 @@
 #include "Delimited.h"
 
+#include <algorithm>
+
 namespace quillet {
 
 void DelimitedReader::skipBlanks()
@@ -45,34 +47,40 @@ std::optional<DelimitedReader::Field> DelimitedReader::next()
 
     Field field;
     field.line = m_line;
+    constexpr auto npos = std::string_view::npos;
     if (m_pos < m_text.size() && m_text[m_pos] == '"') {
         field.quoted = true;
         ++m_pos;
-        for (; m_pos < m_text.size(); ++m_pos) {
-            if (m_text[m_pos] == '"') {
-                // A doubled quote stands for one; a single one closes the field.
-                if (m_pos + 1 >= m_text.size() || m_text[m_pos + 1] != '"')
-                    break;
-                ++m_pos;
-            } else if (m_text[m_pos] == '\n' ||
-                       (m_text[m_pos] == '\r' && (m_pos + 1 >= m_text.size() || m_text[m_pos + 1] != '\n'))) {
-                ++m_line;
+        // The text is taken a run at a time, from one double quote to the next.
+        while (m_pos < m_text.size()) {
+            const std::size_t quote = std::min(m_text.find('"', m_pos), m_text.size());
+            const std::string_view run = m_text.substr(m_pos, quote - m_pos);
+            for (std::size_t at = run.find_first_of("\r\n"); at != npos;
+                 at = run.find_first_of("\r\n", at + 1)) {
+                const std::size_t where = m_pos + at;
+                if (m_text[where] == '\n' || where + 1 >= m_text.size() || m_text[where + 1] != '\n')
+                    ++m_line;
             }
-            field.text += m_text[m_pos];
+            field.text += run;
+            m_pos = quote;
+            // A doubled quote stands for one; a single one closes the field.
+            if (m_pos + 1 >= m_text.size() || m_text[m_pos + 1] != '"')
+                break;
+            field.text += '"';
+            m_pos += 2;
         }
         if (m_pos < m_text.size())
             ++m_pos; // closing quote
         // Anything between the closing quote and the delimiter is dropped; the caller may refuse it.
         skipBlanks();
-        while (m_pos < m_text.size() && m_text[m_pos] != ',' && !atLineEnd()) {
-            field.textAfterQuote = true;
-            ++m_pos;
-        }
+        const std::size_t end = std::min(m_text.find_first_of(",\r\n", m_pos), m_text.size());
+        field.textAfterQuote = end > m_pos;
+        m_pos = end;
     } else {
-        while (m_pos < m_text.size() && m_text[m_pos] != ',' && !atLineEnd())
-            field.text += m_text[m_pos++];
-        const auto last = field.text.find_last_not_of(" \t");
-        field.text.erase(last == std::string::npos ? 0 : last + 1);
+        const std::size_t end = std::min(m_text.find_first_of(",\r\n", m_pos), m_text.size());
+        const std::string_view text = m_text.substr(m_pos, end - m_pos);
+        field.text = text.substr(0, text.find_last_not_of(" \t") + 1);
+        m_pos = end;
     }
 
     if (m_pos < m_text.size()) {
