@@ -19,7 +19,6 @@ public:
     explicit TextLines(std::string_view bytes);
 
     std::size_t size() const { return m_lines.size(); }
-    bool empty() const { return m_lines.empty(); }
     // The bytes of every line together, line ends left out.
     std::size_t bytes() const { return m_text.size(); }
     std::string_view operator[](std::size_t i) const
