@@ -65,7 +65,7 @@ Status readFiles(Session& session, const std::string& type)
 
     const fs::path stationPath = stationFile(session, type);
     std::optional<LoadSnapshot> stored;
-    if (fileExists(type + ".cfg", session.programFolder, session.files.system())) {
+    if (session.files.exists(stationPath)) {
         auto text = session.files.read(stationPath, kMaxFileBytes);
         if (!text)
             return Error{text.error().message + notRead()};
