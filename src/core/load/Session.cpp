@@ -8,8 +8,8 @@ std::filesystem::path Session::picture(std::string_view name)
 {
     if (auto found = findPath(name, programFolder, files.system()))
         return *found;
-    messages.reportOnce("The picture \"" + std::string(name) + "\" was not found in \"" +
-                        displayPath(programFolder) + "\"; its picture box stays blank.");
+    messages.reportOnce("The picture \"" + std::string(name) + "\" was not found in " +
+                        quotedPath(programFolder) + "; its picture box stays blank.");
     return {};
 }
 

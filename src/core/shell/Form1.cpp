@@ -156,9 +156,9 @@ void Form1::loadini(int& count)
         // can be used at once, as in a user folder's starter settings.
         settings = parseSettings(starterSettings(), kMenuCapacity);
         m_session.messages.reportOnce(
-            "Quillet found no \"" + std::string(kSettingsFile) + "\" in \"" +
-            displayPath(m_session.programFolder) +
-            "\", so it starts with all its aircraft types waiting under \"Avaliable Aircraft\". Next, in the "
+            "Quillet found no \"" + std::string(kSettingsFile) + "\" in " +
+            quotedPath(m_session.programFolder) +
+            ", so it starts with all its aircraft types waiting under \"Avaliable Aircraft\". Next, in the "
             "configuration dialog, give the simulator folder (the one holding fs2000.exe), then choose each "
             "aircraft you fly, type or browse to its folder and press \"Add\" when it appears; closing the "
             "dialog saves the settings.");
@@ -166,13 +166,13 @@ void Form1::loadini(int& count)
         auto bytes = m_session.files.read(*file, kSettingsMaxBytes);
         if (bytes) {
             if (const auto notText = whyNotText(bytes.value()))
-                bytes = Error{"\"" + displayPath(*file) + "\" " + *notText + "."};
+                bytes = Error{quotedPath(*file) + " " + *notText + "."};
         }
         if (bytes) {
             settings = parseSettings(bytes.value(), kMenuCapacity);
             for (const std::string& problem : settings.problems) {
-                m_session.messages.reportOnce("The settings file \"" + displayPath(*file) +
-                                              "\" is not complete: " + problem + ".");
+                m_session.messages.reportOnce("The settings file " + quotedPath(*file) +
+                                              " is not complete: " + problem + ".");
             }
         } else {
             m_session.messages.reportOnce(
@@ -193,8 +193,8 @@ void Form1::loadini(int& count)
         if (!isSingleName(state.menufolder[i])) {
             if (!state.menufolder[i].empty()) {
                 m_session.messages.reportOnce("The aircraft folder \"" + state.menufolder[i] + "\" of \"" +
-                                              state.menutype[i] + "\" in \"" + displayPath(*file) +
-                                              "\" is not a single folder name, so \"" + state.menutype[i] +
+                                              state.menutype[i] + "\" in " + quotedPath(*file) +
+                                              " is not a single folder name, so \"" + state.menutype[i] +
                                               "\" is not listed. Give it the name of its folder inside \"" +
                                               state.simfolder + "\\aircraft\" in the configuration dialog.");
             }
@@ -252,15 +252,15 @@ bool Form1::saveini(int count)
     const auto backup = path.parent_path() / (std::string(kSettingsFile) + ".bak");
     if (notKept) {
         if (auto kept = m_session.files.replace(backup, onDisk); !kept)
-            return notSaved("\"" + displayPath(path) + "\" " + *notKept +
+            return notSaved(quotedPath(path) + " " + *notKept +
                             ", and no copy of it could be made: " + kept.error().message);
     }
     if (auto renamed = m_session.files.commit(pending.value()); !renamed)
         return notSaved(renamed.error().message);
     if (notKept) {
-        m_session.messages.report("The settings file \"" + displayPath(path) + "\" " + *notKept +
-                                  ". The file as it was is kept as \"" + displayPath(backup) + "\", and \"" +
-                                  displayPath(path) + "\" now holds the simulator folder and the " +
+        m_session.messages.report("The settings file " + quotedPath(path) + " " + *notKept +
+                                  ". The file as it was is kept as " + quotedPath(backup) + ", and " +
+                                  quotedPath(path) + " now holds the simulator folder and the " +
                                   std::to_string(entries.size()) + " aircraft of Quillet's menu.");
     }
     return true;

@@ -146,8 +146,7 @@ void Form4::aircraftFolderChosen(const std::filesystem::path& folder)
     if (!chosen.has_filename())
         chosen = chosen.parent_path(); // "…/b737_300/"
     if (!aircraft || !std::filesystem::equivalent(chosen.parent_path(), *aircraft, ec)) {
-        m_session.messages.report("\"" + displayPath(folder) +
-                                  "\" is not in the simulator's aircraft folder \"" +
+        m_session.messages.report(quotedPath(folder) + " is not in the simulator's aircraft folder \"" +
                                   m_session.state.simfolder +
                                   "\\aircraft\"; choose one of the folders inside it, or first give the "
                                   "simulator folder.");

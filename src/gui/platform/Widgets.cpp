@@ -104,8 +104,8 @@ QPixmap loadPicture(const std::filesystem::path& file, Messages& messages)
     QImageReader reader(QString::fromStdString(file.string()));
     const QImage image = reader.read();
     if (image.isNull()) {
-        messages.reportOnce("The picture \"" + displayPath(file) +
-                            "\" could not be shown: " + reader.errorString().toStdString() + ".");
+        messages.reportOnce("The picture " + quotedPath(file) +
+                            " could not be shown: " + reader.errorString().toStdString() + ".");
         return {};
     }
     return QPixmap::fromImage(image);
